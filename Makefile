@@ -1,0 +1,50 @@
+# The two commands of the README: `make run` and `make test`.
+BUILD      ?= build
+GENERATOR  ?= Ninja
+JOBS       ?= 2
+CMAKE_ARGS ?=
+
+TEST_ENV = QT_QPA_PLATFORM=offscreen QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" QTWEBENGINE_DISABLE_SANDBOX=1
+
+.PHONY: all deps configure build run test bench fuzz check-asan clean
+
+all: build
+
+deps:
+	@scripts/install-deps
+
+$(BUILD)/build.ninja:
+	cmake -S . -B $(BUILD) -G $(GENERATOR) -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_ARGS)
+
+configure: deps $(BUILD)/build.ninja
+
+build: configure
+	cmake --build $(BUILD) -j$(JOBS)
+
+# Chromium refuses its sandbox when run as root.
+run: build
+	cd $(BUILD) && $$( [ "$$(id -u)" = 0 ] && echo QTWEBENGINE_DISABLE_SANDBOX=1 ) ./velloro
+
+test: build
+	cd $(BUILD) && $(TEST_ENV) ctest --output-on-failure -j$(JOBS)
+
+bench: build
+	$(BUILD)/bench/bench_settings
+	bench/startup.sh $(BUILD)/velloro
+
+fuzz: deps
+	CC=clang CXX=clang++ cmake -S . -B build-fuzz -G $(GENERATOR) -DVELLORO_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build build-fuzz -j$(JOBS)
+	@for h in build-fuzz/fuzz/fuzz_*; do \
+	  [ -x "$$h" ] || continue; name=$$(basename $$h); mkdir -p build-fuzz/corpus/$$name; \
+	  echo "== $$name (60 s)"; \
+	  $$h -max_total_time=60 -print_final_stats=1 build-fuzz/corpus/$$name fuzz/corpus/$$name || exit 1; \
+	done
+
+check-asan: deps
+	cmake -S . -B build-asan -G $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DVELLORO_SANITIZE=ON
+	cmake --build build-asan -j$(JOBS)
+	cd build-asan && $(TEST_ENV) ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
+
+clean:
+	rm -rf $(BUILD) build-asan build-fuzz

@@ -1,0 +1,82 @@
+#pragma once
+#include <Qsci/qsciscintilla.h>
+
+#include <QHash>
+#include <functional>
+#include <memory>
+
+class QsciLexer;
+class QsciMacro;
+
+// The code editor control of the document windows: QScintilla with the members the program
+// uses, under their own names, and the editor command numbers of ExecuteCmd.
+class CodeMax : public QsciScintilla {
+    Q_OBJECT
+public:
+    // Editor command numbers understood by ExecuteCmd.
+    enum Command {
+        UpperCase = 125, SelectAll = 137, LowerCase = 147, LineUp = 149, LineDown = 157,
+        DeleteLine = 160, FindReplace = 169, CollapseRight = 201, RecordMacro = 213,
+        PlayMacro1 = 214, PlayMacro10 = 223, EditorProperties = 224
+    };
+    // Colour slots of the control.
+    enum ColourItem { LeftMarginColour = 1, LineNumberColour = 26, LineNumberBackColour = 27 };
+
+    explicit CodeMax(QWidget* parent = nullptr);
+    ~CodeMax() override;
+
+    QString SelText() const;
+    // Replaces the selection (or inserts at the caret) and leaves the new text selected.
+    void setSelText(const QString& text);
+    int SelLength() const;
+    int TextLength() const;   // in characters
+    int LineCount() const;
+    void DeleteSel();
+
+    // Runs an editor command by number; an unknown number is a run-time error (5).
+    void ExecuteCmd(int command);
+
+    // File transfers; failures are run-time errors (53 not found, 58 exists, 75 access).
+    void OpenFile(const QString& path);
+    void SaveFile(const QString& path, bool overwrite);
+
+    // The syntax language by name; an unknown name or "" shows plain text.
+    void setLanguage(const QString& name);
+    QString Language() const { return languageName; }
+    using LexerFactory = std::function<QsciLexer*(QObject* parent)>;
+    static void registerLanguage(const QString& name, LexerFactory factory);
+    static QStringList languages();
+
+    void setDisplayLeftMargin(bool on);
+    void setLineNumbering(bool on);
+    void setDisplayWhitespace(bool on);
+    bool LineNumbering() const { return lineNumbers; }
+    void setColour(int item, int platformColour);
+    int HighlightedLine() const;
+    void setHighlightedLine(int line);
+
+    // Macros: 213 starts and stops recording into the chosen slot (1 to 10), 214..223 play.
+    void setMacroRecordSlot(int slot);
+    int macroRecordSlot() const { return recordSlot; }
+    bool isRecordingMacro() const { return recording != nullptr; }
+    bool hasMacro(int slot) const;
+
+Q_SIGNALS:
+    // Fires on every change of the text, also when the text is assigned by code.
+    void Change();
+    void findReplaceRequested();       // command 169
+    void propertiesRequested();        // command 224
+
+private:
+    void collapseSelectionRight();
+    void toggleRecording();
+    void playMacro(int slot);
+    void updateLineNumberWidth();
+
+    QString languageName;
+    bool lineNumbers = false;
+    int recordSlot = 1;
+    QsciMacro* recording = nullptr;
+    QHash<int, QString> macros;  // slot -> recorded macro
+    int highlighted = -1;
+};

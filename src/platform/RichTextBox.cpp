@@ -1,0 +1,228 @@
+#include "platform/RichTextBox.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
+#include "platform/Twips.h"
+
+#include <QFileInfo>
+#include <QPagedPaintDevice>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QTextEdit>
+
+RichTextBox::RichTextBox(Kind kind, QWidget* parentWidget, QObject* owner) : QObject(owner)
+{
+    setObjectName(QStringLiteral("RichTextBox1"));
+    if (kind == Kind::Visible) {
+        edit = new QTextEdit(parentWidget);
+        edit->setObjectName(QStringLiteral("RichTextBox1"));
+        edit->setAcceptRichText(true);
+        doc = edit->document();
+        connect(edit, &QTextEdit::textChanged, this, &RichTextBox::Change);
+    } else {
+        doc = new QTextDocument(this);
+        own = QTextCursor(doc);
+        connect(doc, &QTextDocument::contentsChanged, this, &RichTextBox::Change);
+    }
+}
+
+QTextCursor RichTextBox::cursor() const { return edit ? edit->textCursor() : own; }
+
+void RichTextBox::setCursor(const QTextCursor& c)
+{
+    if (edit)
+        edit->setTextCursor(c);
+    else
+        own = c;
+}
+
+QString RichTextBox::text() const
+{
+    // The control's text has CR LF between paragraphs.
+    QString s = doc->toPlainText();
+    s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return s;
+}
+
+void RichTextBox::setText(const QString& text)
+{
+    QString s = text;
+    s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    doc->setPlainText(s);
+    setCursor(QTextCursor(doc));
+}
+
+int RichTextBox::SelStart() const { return cursor().selectionStart(); }
+
+void RichTextBox::setSelStart(int pos)
+{
+    QTextCursor c = cursor();
+    c.setPosition(qBound(0, pos, doc->characterCount() - 1));
+    setCursor(c);
+}
+
+int RichTextBox::SelLength() const
+{
+    const QTextCursor c = cursor();
+    return c.selectionEnd() - c.selectionStart();
+}
+
+void RichTextBox::setSelLength(int length)
+{
+    QTextCursor c = cursor();
+    const int start = c.selectionStart();
+    c.setPosition(start);
+    c.setPosition(qBound(0, start + length, doc->characterCount() - 1), QTextCursor::KeepAnchor);
+    setCursor(c);
+}
+
+QString RichTextBox::SelText() const
+{
+    QString s = cursor().selectedText();
+    s.replace(QChar::ParagraphSeparator, QLatin1String("\r\n"));
+    return s;
+}
+
+void RichTextBox::setSelText(const QString& text)
+{
+    QTextCursor c = cursor();
+    QString s = text;
+    s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    c.insertText(s);
+    setCursor(c);
+}
+
+void RichTextBox::mergeFormat(const QTextCharFormat& f)
+{
+    QTextCursor c = cursor();
+    c.mergeCharFormat(f);
+    if (edit && !c.hasSelection())
+        edit->mergeCurrentCharFormat(f);
+    setCursor(c);
+}
+
+QString RichTextBox::SelFontName() const { return cursor().charFormat().font().family(); }
+void RichTextBox::setSelFontName(const QString& name)
+{
+    QTextCharFormat f;
+    f.setFontFamilies({name});
+    mergeFormat(f);
+}
+
+double RichTextBox::SelFontSize() const { return cursor().charFormat().font().pointSizeF(); }
+void RichTextBox::setSelFontSize(double points)
+{
+    if (points <= 0)
+        throw RuntimeError::invalidProperty(QStringLiteral("RichTextBox.SelFontSize"));
+    QTextCharFormat f;
+    f.setFontPointSize(points);
+    mergeFormat(f);
+}
+
+int RichTextBox::SelColor() const
+{
+    const QColor c = cursor().charFormat().foreground().color();
+    return c.red() | (c.green() << 8) | (c.blue() << 16);
+}
+void RichTextBox::setSelColor(int v)
+{
+    QTextCharFormat f;
+    f.setForeground(QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF));
+    mergeFormat(f);
+}
+
+bool RichTextBox::SelBold() const { return cursor().charFormat().fontWeight() >= QFont::Bold; }
+void RichTextBox::setSelBold(bool on)
+{
+    QTextCharFormat f;
+    f.setFontWeight(on ? QFont::Bold : QFont::Normal);
+    mergeFormat(f);
+}
+
+bool RichTextBox::SelItalic() const { return cursor().charFormat().fontItalic(); }
+void RichTextBox::setSelItalic(bool on)
+{
+    QTextCharFormat f;
+    f.setFontItalic(on);
+    mergeFormat(f);
+}
+
+bool RichTextBox::SelUnderline() const { return cursor().charFormat().fontUnderline(); }
+void RichTextBox::setSelUnderline(bool on)
+{
+    QTextCharFormat f;
+    f.setFontUnderline(on);
+    mergeFormat(f);
+}
+
+void RichTextBox::mergeBlock(const std::function<void(QTextBlockFormat&)>& change)
+{
+    QTextCursor c = cursor();
+    QTextBlockFormat f = c.blockFormat();
+    change(f);
+    c.setBlockFormat(f);
+    setCursor(c);
+}
+
+// Indents are kept in twips; the document works in pixels.
+int RichTextBox::SelIndent() const
+{
+    const QTextBlockFormat f = cursor().blockFormat();
+    return pixelsToTwips(static_cast<int>(f.leftMargin() + qMax(0.0, f.textIndent())));
+}
+void RichTextBox::setSelIndent(int twips)
+{
+    mergeBlock([twips](QTextBlockFormat& f) { f.setLeftMargin(twipsToPixels(twips)); });
+}
+int RichTextBox::SelRightIndent() const { return pixelsToTwips(static_cast<int>(cursor().blockFormat().rightMargin())); }
+void RichTextBox::setSelRightIndent(int twips)
+{
+    mergeBlock([twips](QTextBlockFormat& f) { f.setRightMargin(twipsToPixels(twips)); });
+}
+int RichTextBox::SelHangingIndent() const { return pixelsToTwips(static_cast<int>(-cursor().blockFormat().textIndent())); }
+void RichTextBox::setSelHangingIndent(int twips)
+{
+    mergeBlock([twips](QTextBlockFormat& f) { f.setTextIndent(-twipsToPixels(twips)); });
+}
+
+int RichTextBox::find(const QString& what)
+{
+    const QTextCursor found = doc->find(what, 0);
+    if (found.isNull())
+        return -1;
+    setCursor(found);
+    return found.selectionStart();
+}
+
+int RichTextBox::GetLineFromChar(int pos) const
+{
+    const QTextBlock b = doc->findBlock(qBound(0, pos, doc->characterCount() - 1));
+    return b.isValid() ? b.blockNumber() : 0;
+}
+
+void RichTextBox::LoadFile(const QString& path)
+{
+    bool ok = false;
+    const QString t = TextFiles::readText(path, &ok);
+    if (!ok)
+        throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("RichTextBox.LoadFile"));
+    setText(t);
+}
+
+void RichTextBox::SaveFile(const QString& path)
+{
+    if (!TextFiles::writeText(path, text()))
+        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("RichTextBox.SaveFile"));
+}
+
+void RichTextBox::SelPrint(QPagedPaintDevice* device)
+{
+    if (SelLength() == 0) {
+        doc->print(device);
+        return;
+    }
+    QTextDocument part;
+    QTextCursor(&part).insertFragment(cursor().selection());
+    part.print(device);
+}

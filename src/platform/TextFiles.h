@@ -1,0 +1,22 @@
+#pragma once
+#include <QByteArray>
+#include <QString>
+
+// Text files as the program reads and writes them: composed text carries its own CR LF and is
+// written as UTF-8; reading takes UTF-8 and falls back to Windows-1252 for invalid bytes.
+namespace TextFiles {
+QString decode(const QByteArray& bytes);
+QByteArray encode(const QString& text);
+
+bool exists(const QString& path);
+// Creates the file empty when it is missing (the parent folder is made too). False on failure.
+bool createIfMissing(const QString& path);
+
+// Reads the whole file; a missing or unreadable file gives nothing and ok=false.
+QByteArray readBytes(const QString& path, bool* ok = nullptr);
+QString readText(const QString& path, bool* ok = nullptr);
+
+// Replaces the file as a whole through a temporary file, so a failure never leaves half a file.
+bool writeBytes(const QString& path, const QByteArray& bytes, QString* error = nullptr);
+bool writeText(const QString& path, const QString& text, QString* error = nullptr);
+}

@@ -1,0 +1,41 @@
+#pragma once
+#include <QUrl>
+#include <QWidget>
+
+class QWebEngineView;
+class QVBoxLayout;
+
+// The browser control. The Chromium view behind it is created on first use (a navigation or
+// the first time the control is shown), so start-up does not pay for it.
+class WebBrowser : public QWidget {
+    Q_OBJECT
+public:
+    explicit WebBrowser(QWidget* parent = nullptr);
+
+    void Navigate(const QString& pathOrUrl);
+    void GoBack();
+    void GoForward();
+    void Refresh();
+    void zoomIn();
+    void zoomOut();
+    double zoom() const { return zoomFactor; }
+    void PrintPreview();
+    QUrl LocationURL() const { return location; }
+
+    bool isCreated() const { return view != nullptr; }
+    QWebEngineView* webView();  // creates the view when needed
+
+Q_SIGNALS:
+    // The hovered link's address, "" when the pointer leaves it, and "Done" after each load.
+    void StatusTextChange(const QString& text);
+    void NavigateComplete(const QUrl& url);
+
+protected:
+    void showEvent(QShowEvent* e) override;
+
+private:
+    QWebEngineView* view = nullptr;
+    QVBoxLayout* layout = nullptr;
+    QUrl location;
+    double zoomFactor = 1.0;
+};

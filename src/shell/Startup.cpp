@@ -1,0 +1,311 @@
+#include "shell/Startup.h"
+
+#include "documents/PageGenerator.h"
+#include "platform/CheckValue.h"
+#include "platform/Prompts.h"
+#include "shell/ColourSwatch.h"
+#include "shell/Options.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+const char* faceStyle = "background-color: rgb(193, 210, 238);";
+const char* headingStyle = "font-weight: bold; color: white; background-color: rgb(52, 129, 211); padding: 6px;";
+
+template <class W>
+W* named(W* w, const QString& name)
+{
+    w->setObjectName(name);
+    return w;
+}
+
+QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* b = named(new QPushButton(caption, parent), name);
+    b->setStyleSheet(QLatin1String(faceStyle));
+    return b;
+}
+
+QFrame* frame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr)
+{
+    auto* f = named(new QFrame(parent), name);
+    auto* v = new QVBoxLayout(f);
+    auto* h = new QLabel(heading, f);
+    h->setStyleSheet(QLatin1String(headingStyle));
+    v->addWidget(h);
+    if (headingLabel)
+        *headingLabel = h;
+    return f;
+}
+
+// A task of the list: a label that acts on a click.
+class TaskLabel : public QLabel {
+public:
+    TaskLabel(const QString& name, const QString& caption, std::function<void()> onClick, QWidget* parent)
+        : QLabel(caption, parent), click(std::move(onClick))
+    {
+        setObjectName(name);
+        setCursor(Qt::PointingHandCursor);
+        setStyleSheet(QStringLiteral("QLabel { color: rgb(52, 129, 211); padding: 2px 12px; } QLabel:hover { text-decoration: underline; }"));
+    }
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* e) override
+    {
+        if (e->button() == Qt::LeftButton && click)
+            click();
+    }
+
+private:
+    std::function<void()> click;
+};
+}
+
+Startup::Startup(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("StartUp Screen"));
+    auto* layout = new QVBoxLayout(this);
+    buildTaskList();
+    buildSinglePage();
+    buildStylePage();
+    buildFramePage();
+    for (QFrame* f : {frstartup, frsingle, CSSFrame, frframe})
+        layout->addWidget(f);
+    SmartNetButton1 = button(QStringLiteral("SmartNetButton1"), QStringLiteral("Close"), this);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(SmartNetButton1);
+    layout->addLayout(row);
+    connect(SmartNetButton1, &QPushButton::clicked, this, &QWidget::hide);
+    Text1 = named(new QLineEdit(this), QStringLiteral("Text1"));
+    Text1->hide();
+    showFrame(frstartup);
+    resize(520, 420);
+}
+
+void Startup::buildTaskList()
+{
+    frstartup = frame(QStringLiteral("frstartup"), QStringLiteral("Welcome to Velloro 2002"), this);
+    auto* v = static_cast<QVBoxLayout*>(frstartup->layout());
+    Label3 = named(new QLabel(QStringLiteral("Start A New:"), frstartup), QStringLiteral("Label3"));
+    Label3->setStyleSheet(QStringLiteral("font-weight: bold;"));
+    Label4 = new TaskLabel(QStringLiteral("Label4"), QStringLiteral("Create A Single  Web Page"),
+                           [this] { showFrame(frsingle); }, frstartup);
+    Label5 = new TaskLabel(QStringLiteral("Label5"), QStringLiteral("Create A Framed Web Site"),
+                           [this] { showFrame(frframe); }, frstartup);
+    v->addWidget(Label3);
+    v->addWidget(Label4);
+    v->addWidget(Label5);
+    v->addStretch();
+    ToolTip = named(new QLabel(frstartup), QStringLiteral("ToolTip"));
+    ToolTip->setWordWrap(true);
+    ToolTip->setMinimumHeight(40);
+    v->addWidget(ToolTip);
+    Check1 = named(new QCheckBox(QStringLiteral("Load at Startup ?"), frstartup), QStringLiteral("Check1"));
+    // Ticked by design: the window shows at load unless the setting clears the tick.
+    Check1->setChecked(true);
+    v->addWidget(Check1);
+    // The click handler runs on every change of the value, by the user or by code.
+    connect(Check1, &QCheckBox::stateChanged, this, &Startup::Check1_Click);
+}
+
+void Startup::buildSinglePage()
+{
+    frsingle = frame(QStringLiteral("frsingle"), QStringLiteral("Welcome to Velloro 2002"), this, &Label30);
+    Label30->setObjectName(QStringLiteral("Label30"));
+    auto* grid = new QGridLayout;
+    title = named(new QLineEdit(frsingle), QStringLiteral("title"));
+    Text3 = named(new QLineEdit(QStringLiteral("\"#000000\""), frsingle), QStringLiteral("Text3"));
+    Text4 = named(new QLineEdit(QStringLiteral("\"#FFFFFF\""), frsingle), QStringLiteral("Text4"));
+    mlocation = named(new QLineEdit(frsingle), QStringLiteral("mlocation"));
+    mloop = named(new QLineEdit(QStringLiteral("0"), frsingle), QStringLiteral("mloop"));
+    bpic = named(new QLineEdit(frsingle), QStringLiteral("bpic"));
+    Shape3 = new ColourSwatch(QStringLiteral("Shape3"), frsingle);
+    Shape3->setBackColor(0x000000);
+    Shape4 = new ColourSwatch(QStringLiteral("Shape4"), frsingle);
+    Shape4->setBackColor(0xFFFFFF);
+    Command3 = button(QStringLiteral("Command3"), QStringLiteral("...."), frsingle);
+    Command4 = button(QStringLiteral("Command4"), QStringLiteral("...."), frsingle);
+    Command5 = button(QStringLiteral("Command5"), QStringLiteral("...."), frsingle);
+    Command7 = button(QStringLiteral("Command7"), QStringLiteral("...."), frsingle);
+    Check2 = named(new QCheckBox(frsingle), QStringLiteral("Check2"));
+    CSS = named(new QCheckBox(QStringLiteral("Set Style sheet?"), frsingle), QStringLiteral("CSS"));
+
+    grid->addWidget(new QLabel(QStringLiteral("Enter Page Title"), frsingle), 0, 0);
+    grid->addWidget(title, 0, 1, 1, 3);
+    grid->addWidget(new QLabel(QStringLiteral("Text Colour"), frsingle), 1, 0);
+    grid->addWidget(Text3, 1, 1);
+    grid->addWidget(Shape3, 1, 2);
+    grid->addWidget(Command3, 1, 3);
+    grid->addWidget(new QLabel(QStringLiteral("Background Colour"), frsingle), 2, 0);
+    grid->addWidget(Text4, 2, 1);
+    grid->addWidget(Shape4, 2, 2);
+    grid->addWidget(Command4, 2, 3);
+    grid->addWidget(new QLabel(QStringLiteral("Background Music"), frsingle), 3, 0);
+    grid->addWidget(mlocation, 3, 1, 1, 2);
+    grid->addWidget(Command5, 3, 3);
+    auto* loopRow = new QHBoxLayout;
+    loopRow->addWidget(mloop);
+    loopRow->addWidget(Check2);
+    auto* Label12 = named(new QLabel(QStringLiteral("Forever"), frsingle), QStringLiteral("Label12"));
+    loopRow->addWidget(Label12);
+    loopRow->addStretch();
+    grid->addWidget(new QLabel(QStringLiteral("Loop"), frsingle), 4, 0);
+    grid->addLayout(loopRow, 4, 1, 1, 3);
+    grid->addWidget(new QLabel(QStringLiteral("Background Picture"), frsingle), 5, 0);
+    grid->addWidget(bpic, 5, 1, 1, 2);
+    grid->addWidget(Command7, 5, 3);
+    grid->addWidget(CSS, 6, 1, 1, 3);
+    auto* v = static_cast<QVBoxLayout*>(frsingle->layout());
+    v->addLayout(grid);
+    v->addStretch();
+    auto* nav = new QHBoxLayout;
+    Command2 = button(QStringLiteral("Command2"), QStringLiteral("Previous"), frsingle);
+    Command1 = button(QStringLiteral("Command1"), QStringLiteral("Next"), frsingle);
+    nav->addStretch();
+    nav->addWidget(Command2);
+    nav->addWidget(Command1);
+    v->addLayout(nav);
+
+    connect(Command3, &QPushButton::clicked, this, [this] { chooseColourInto(Text3, Shape3, true); });
+    connect(Command4, &QPushButton::clicked, this, [this] { chooseColourInto(Text4, Shape4, true); });
+    connect(Command5, &QPushButton::clicked, this, [this] {
+        const QString file = prompts().openFile(QString(), QStringLiteral("Music (*.wav *.mp3)"), QString());
+        if (!file.isEmpty())
+            mlocation->setText(file);
+    });
+    // Any click disables the loop count, and nothing enables it again.
+    connect(Check2, &QCheckBox::clicked, this, [this] { mloop->setEnabled(false); });
+    connect(Command1, &QPushButton::clicked, this, [this] {
+        if (checkValue(CSS) != 0)
+            showFrame(CSSFrame);
+        else
+            PrepareSoundTag();
+    });
+    connect(Command2, &QPushButton::clicked, this, [this] { showFrame(frstartup); });
+}
+
+void Startup::buildStylePage()
+{
+    CSSFrame = frame(QStringLiteral("CSSFrame"), QStringLiteral("Link Colours"), this);
+    auto* grid = new QGridLayout;
+    struct Row { const char* caption; QLineEdit** text; QComboBox** combo; ColourSwatch** swatch; QPushButton** button; int n; int cmd; };
+    const Row rows[] = {{"A Link ", &Text7, &Combo7, &Shape7, &Command6, 7, 6},
+                        {"A Visited ", &Text8, &Combo8, &Shape8, &Command8, 8, 8},
+                        {"A Active ", &Text9, &Combo9, &Shape9, &Command9, 9, 9},
+                        {"A Hover", &Text10, &Combo10, &Shape10, &Command10, 10, 10}};
+    int r = 0;
+    for (const Row& row : rows) {
+        *row.text = named(new QLineEdit(QStringLiteral("\"#0000FF\""), CSSFrame), QStringLiteral("Text%1").arg(row.n));
+        *row.combo = named(new QComboBox(CSSFrame), QStringLiteral("Combo%1").arg(row.n));
+        (*row.combo)->setEditable(true);
+        (*row.combo)->setCurrentText(QStringLiteral("Underlined"));
+        *row.swatch = new ColourSwatch(QStringLiteral("Shape%1").arg(row.n), CSSFrame);
+        (*row.swatch)->setBackColor(0xFF0000);
+        *row.button = button(QStringLiteral("Command%1").arg(row.cmd), QStringLiteral("...."), CSSFrame);
+        grid->addWidget(new QLabel(QString::fromLatin1(row.caption), CSSFrame), r, 0);
+        grid->addWidget(*row.text, r, 1);
+        grid->addWidget(*row.swatch, r, 2);
+        grid->addWidget(*row.button, r, 3);
+        grid->addWidget(*row.combo, r, 4);
+        QLineEdit* text = *row.text;
+        ColourSwatch* swatch = *row.swatch;
+        connect(*row.button, &QPushButton::clicked, this, [text, swatch] { chooseColourInto(text, swatch, true); });
+        ++r;
+    }
+    auto* v = static_cast<QVBoxLayout*>(CSSFrame->layout());
+    v->addLayout(grid);
+    v->addStretch();
+    auto* nav = new QHBoxLayout;
+    Command13 = button(QStringLiteral("Command13"), QStringLiteral("Back"), CSSFrame);
+    Command12 = button(QStringLiteral("Command12"), QStringLiteral("Next"), CSSFrame);
+    nav->addStretch();
+    nav->addWidget(Command13);
+    nav->addWidget(Command12);
+    v->addLayout(nav);
+    connect(Command12, &QPushButton::clicked, this, [] { PrepareSoundTag(); });
+    connect(Command13, &QPushButton::clicked, this, [this] { showFrame(frsingle); });
+}
+
+void Startup::buildFramePage()
+{
+    frframe = frame(QStringLiteral("frframe"), QStringLiteral("Framed Web Site"), this);
+    auto* v = static_cast<QVBoxLayout*>(frframe->layout());
+    auto* Label27 = named(new QLabel(QStringLiteral("Just select the options below then click on a template on the left, the frames will be created. You must save the pages in the same directory for the index.html to work."), frframe), QStringLiteral("Label27"));
+    Label27->setWordWrap(true);
+    v->addWidget(Label27);
+    auto* form = new QFormLayout;
+    frsp = named(new QLineEdit(frframe), QStringLiteral("frsp"));
+    bo = named(new QLineEdit(frframe), QStringLiteral("bo"));
+    frbo = named(new QLineEdit(frframe), QStringLiteral("frbo"));
+    frco = named(new QLineEdit(frframe), QStringLiteral("frco"));
+    Text5 = named(new QLineEdit(frframe), QStringLiteral("Text5"));
+    Shape5 = new ColourSwatch(QStringLiteral("Shape5"), frframe);
+    Command14 = button(QStringLiteral("Command14"), QStringLiteral("...."), frframe);
+    form->addRow(QStringLiteral("Frame Spacing"), frsp);
+    form->addRow(QStringLiteral("Border"), bo);
+    form->addRow(QStringLiteral("Frame Border"), frbo);
+    form->addRow(QStringLiteral("Frame Contents width"), frco);
+    auto* colourRow = new QHBoxLayout;
+    colourRow->addWidget(Text5);
+    colourRow->addWidget(Shape5);
+    colourRow->addWidget(Command14);
+    form->addRow(QStringLiteral("Frames Color"), colourRow);
+    v->addLayout(form);
+    v->addStretch();
+    auto* nav = new QHBoxLayout;
+    Command16 = button(QStringLiteral("Command16"), QStringLiteral("Previous"), frframe);
+    Command11 = button(QStringLiteral("Command11"), QStringLiteral("Close"), frframe);
+    nav->addStretch();
+    nav->addWidget(Command16);
+    nav->addWidget(Command11);
+    v->addLayout(nav);
+    connect(Command14, &QPushButton::clicked, this, [this] { chooseColourInto(Text5, Shape5, true); });
+    connect(Command16, &QPushButton::clicked, this, [this] { showFrame(frstartup); });
+    connect(Command11, &QPushButton::clicked, this, &QWidget::hide);
+}
+
+void Startup::showFrame(QFrame* frame)
+{
+    for (QFrame* f : {frstartup, frsingle, CSSFrame, frframe})
+        f->setVisible(f == frame);
+}
+
+void Startup::Form_Load()
+{
+    const QStringList decorations = {QStringLiteral("Underline"), QStringLiteral("None"), QStringLiteral("Underline + Upperline")};
+    for (QComboBox* c : {Combo7, Combo8, Combo9, Combo10}) {
+        const QString text = c->currentText();
+        c->addItems(decorations);
+        c->setCurrentText(text);
+    }
+    if (Check1->isChecked()) {
+        setWindowFlag(Qt::WindowStaysOnTopHint, true);
+        show();
+    }
+}
+
+void Startup::showEvent(QShowEvent* e)
+{
+    // The window always comes up on the task list, however it was left.
+    showFrame(frstartup);
+    QDialog::showEvent(e);
+}
+
+void Startup::Check1_Click()
+{
+    Options* options = form<Options>();
+    setCheckValue(options->LNEW, checkValue(Check1));
+    options->ApplyDetails();
+    if (checkValue(Check1) == 0)
+        hide();
+}

@@ -1,0 +1,262 @@
+#include "shell/frmMain.h"
+
+#include "documents/DocumentWindow.h"
+#include "platform/App.h"
+#include "platform/CheckValue.h"
+#include "platform/Twips.h"
+#include "shell/AboutFORM.h"
+#include "shell/Main.h"
+#include "shell/Options.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+QHash<QString, frmMain::Command>& commands()
+{
+    static QHash<QString, frmMain::Command> table;
+    return table;
+}
+
+// Widths of the two holders in their folded and open states.
+constexpr int sideFolded = 475, sideOpen = 3470;
+constexpr int rightFolded = 140, rightOpen = 720;
+}
+
+frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
+{
+    setWindowTitle(App::title());
+    buildLayout();
+    if (const QScreen* s = QGuiApplication::primaryScreen()) {
+        const QRect avail = s->availableGeometry();
+        resize(avail.width() * 9 / 10, avail.height() * 9 / 10);
+        move(avail.center() - rect().center());
+    }
+}
+
+frmMain::~frmMain() = default;
+
+frmMain* frmMain::instance() { return form<frmMain>(); }
+frmMain* frmMain::loaded() { return loadedForm<frmMain>(); }
+
+void frmMain::buildLayout()
+{
+    auto* central = new QWidget(this);
+    auto* outer = new QVBoxLayout(central);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    outer->addLayout(row, 1);
+
+    Sideholder = new QFrame(central);
+    Sideholder->setObjectName(QStringLiteral("Sideholder"));
+    Sideholder->setFrameShape(QFrame::StyledPanel);
+    auto* sideLayout = new QHBoxLayout(Sideholder);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    sideLayout->addStretch(1);
+    LeftMoveIn = new QFrame(Sideholder);
+    LeftMoveIn->setObjectName(QStringLiteral("LeftMoveIn"));
+    LeftMoveIn->setStyleSheet(QStringLiteral("QFrame#LeftMoveIn { background-color: rgb(52, 129, 211); }"));
+    auto* moveLayout = new QVBoxLayout(LeftMoveIn);
+    moveLayout->setContentsMargins(1, 4, 1, 4);
+    LeftMenuIn = new QToolButton(LeftMoveIn);
+    LeftMenuIn->setObjectName(QStringLiteral("LeftMenuIn"));
+    LeftMenuIn->setArrowType(Qt::LeftArrow);
+    LeftMenuIn->setAutoRaise(true);
+    moveLayout->addWidget(LeftMenuIn);
+    moveLayout->addStretch();
+    sideLayout->addWidget(LeftMoveIn);
+    row->addWidget(Sideholder);
+
+    MDIClient = new QMdiArea(central);
+    MDIClient->setObjectName(QStringLiteral("MDIClient"));
+    MDIClient->setBackground(QColor(171, 171, 171));
+    row->addWidget(MDIClient, 1);
+
+    RightHolder = new QFrame(central);
+    RightHolder->setObjectName(QStringLiteral("RightHolder"));
+    RightHolder->setStyleSheet(QStringLiteral("QFrame#RightHolder { background-color: rgb(193, 210, 238); }"));
+    auto* rightLayout = new QVBoxLayout(RightHolder);
+    rightLayout->setContentsMargins(1, 4, 1, 4);
+    RightMenuIn = new QToolButton(RightHolder);
+    RightMenuIn->setObjectName(QStringLiteral("RightMenuIn"));
+    RightMenuIn->setText(QStringLiteral("Close Bar"));
+    RightMenuIn->setArrowType(Qt::RightArrow);
+    RightMenuIn->setAutoRaise(true);
+    rightLayout->addWidget(RightMenuIn, 0, Qt::AlignHCenter);
+    rightLayout->addStretch();
+    row->addWidget(RightHolder);
+
+    Tooltipframe = new QFrame(central);
+    Tooltipframe->setObjectName(QStringLiteral("Tooltipframe"));
+    Tooltipframe->setStyleSheet(QStringLiteral("QFrame#Tooltipframe { background-color: rgb(255, 255, 240); border-top: 1px solid rgb(52, 129, 211); }"));
+    auto* tipLayout = new QHBoxLayout(Tooltipframe);
+    tipLayout->setContentsMargins(6, 2, 2, 2);
+    auto* tipHead = new QLabel(QStringLiteral("Tooltip :"), Tooltipframe);
+    tipHead->setStyleSheet(QStringLiteral("font-weight: bold; color: rgb(52, 129, 211);"));
+    Tooltiptext = new QLabel(Tooltipframe);
+    Tooltiptext->setObjectName(QStringLiteral("Tooltiptext"));
+    SmartNetButton75 = new QToolButton(Tooltipframe);
+    SmartNetButton75->setObjectName(QStringLiteral("SmartNetButton75"));
+    SmartNetButton75->setText(QStringLiteral("x"));
+    SmartNetButton75->setToolTip(QStringLiteral("Close Tool Tip Window"));
+    SmartNetButton75->setAutoRaise(true);
+    tipLayout->addWidget(tipHead);
+    tipLayout->addWidget(Tooltiptext, 1);
+    tipLayout->addWidget(SmartNetButton75);
+    outer->addWidget(Tooltipframe);
+    setCentralWidget(central);
+
+    StatusBar1 = new QStatusBar(this);
+    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
+    for (int i = 0; i < 3; ++i) {
+        panels[i] = new QLabel(StatusBar1);
+        panels[i]->setObjectName(QStringLiteral("Panel%1").arg(i + 1));
+        panels[i]->setMinimumWidth(i == 0 ? 200 : 110);
+    }
+    StatusBar1->addWidget(panels[0], 1);
+    StatusBar1->addPermanentWidget(panels[1]);
+    StatusBar1->addPermanentWidget(panels[2]);
+    panels[1]->setText(QStringLiteral("Lines: "));
+    panels[2]->setText(QStringLiteral("Chr: "));
+    setStatusBar(StatusBar1);
+
+    foldSide(false);
+    foldRight(false);
+
+    connect(LeftMenuIn, &QToolButton::clicked, this, &frmMain::LeftMenuIn_Click);
+    connect(RightMenuIn, &QToolButton::clicked, this, &frmMain::RightMenuIn_Click);
+    connect(SmartNetButton75, &QToolButton::clicked, this, [this] {
+        Options* options = form<Options>();
+        setCheckValue(options->ToolTip, 0);
+        options->ApplyDetails();
+        Tooltipframe->hide();
+    });
+    connect(MDIClient, &QMdiArea::subWindowActivated, this, &frmMain::subWindowActivated);
+}
+
+void frmMain::Form_Load()
+{
+    // The spell checker's object lives for the duration of this handler only; it joins
+    // here with the spelling library.
+    InitialiseApplication();
+}
+
+void frmMain::closeEvent(QCloseEvent* e)
+{
+    // The walk unloads this window last, if every document agrees to close.
+    e->ignore();
+    CloseAllWindows();
+}
+
+DocumentWindow* frmMain::ActiveForm() const
+{
+    QMdiSubWindow* sub = MDIClient->currentSubWindow();
+    if (!sub)
+        return nullptr;
+    return qobject_cast<DocumentWindow*>(sub->widget());
+}
+
+QList<DocumentWindow*> frmMain::documents() const
+{
+    QList<DocumentWindow*> docs;
+    for (QMdiSubWindow* sub : MDIClient->subWindowList(QMdiArea::CreationOrder))
+        if (auto* d = qobject_cast<DocumentWindow*>(sub->widget()))
+            docs.append(d);
+    return docs;
+}
+
+void frmMain::addDocument(DocumentWindow* doc)
+{
+    QMdiSubWindow* sub = MDIClient->addSubWindow(doc);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->setWindowIcon(QIcon());
+    sub->resize(MDIClient->width() * 3 / 4, MDIClient->height() * 3 / 4);
+    doc->show();
+    sub->show();
+    activate(doc);
+}
+
+void frmMain::activate(DocumentWindow* doc)
+{
+    if (QMdiSubWindow* sub = doc->subWindow())
+        MDIClient->setActiveSubWindow(sub);
+}
+
+void frmMain::subWindowActivated(QMdiSubWindow* w)
+{
+    if (!w)
+        return;
+    if (auto* doc = qobject_cast<DocumentWindow*>(w->widget()))
+        doc->Form_Activate();
+}
+
+void frmMain::registerCommand(const QString& key, Command command)
+{
+    commands().insert(key, std::move(command));
+}
+
+void frmMain::MenuClick(const QString& key)
+{
+    const Command c = commands().value(key);
+    if (c)
+        c();
+}
+
+void frmMain::setStatusText(int panel, const QString& text)
+{
+    if (panel >= 1 && panel <= 3)
+        panels[panel - 1]->setText(text);
+}
+
+QString frmMain::statusText(int panel) const
+{
+    return (panel >= 1 && panel <= 3) ? panels[panel - 1]->text() : QString();
+}
+
+void frmMain::setDocumentCaption(const QString& name)
+{
+    setWindowTitle(versionCaption() + QStringLiteral(" [ ") + name + QStringLiteral(" ]"));
+}
+
+void frmMain::setSideholderWidth(int twips)
+{
+    sideWidth = twips;
+    Sideholder->setFixedWidth(twipsToPixels(twips));
+}
+
+void frmMain::setRightHolderWidth(int twips)
+{
+    rightWidth = twips;
+    RightHolder->setFixedWidth(twipsToPixels(twips));
+    RightMenuIn->setVisible(true);
+}
+
+void frmMain::foldSide(bool folded)
+{
+    setSideholderWidth(folded ? sideFolded : sideOpen);
+    const QString caption = folded ? QStringLiteral("Move Menu Out") : QStringLiteral("Move Menu In");
+    LeftMenuIn->setText(caption);
+    LeftMenuIn->setToolTip(caption);
+    LeftMenuIn->setArrowType(folded ? Qt::RightArrow : Qt::LeftArrow);
+}
+
+void frmMain::foldRight(bool folded)
+{
+    setRightHolderWidth(folded ? rightFolded : rightOpen);
+    const QString caption = folded ? QStringLiteral("Move Menu Out") : QStringLiteral("Move Menu In");
+    RightMenuIn->setToolTip(caption);
+    RightMenuIn->setArrowType(folded ? Qt::LeftArrow : Qt::RightArrow);
+}
+
+void frmMain::LeftMenuIn_Click() { foldSide(sideWidth != sideFolded); }
+void frmMain::RightMenuIn_Click() { foldRight(rightWidth != rightFolded); }

@@ -1,0 +1,65 @@
+#include "common/TestSupport.h"
+
+#include "platform/App.h"
+#include "platform/Forms.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+void copyTree(const QString& from, const QString& to)
+{
+    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString src = it.next();
+        const QString dst = to + src.mid(from.size());
+        QDir().mkpath(QFileInfo(dst).absolutePath());
+        QFile::copy(src, dst);
+    }
+}
+}
+
+TempAppFolder::TempAppFolder(bool copyData)
+{
+    if (copyData)
+        copyTree(QStringLiteral(VELLORO_SOURCE_DATA), dir.path());
+    App::setPathForTesting(dir.path());
+}
+
+QByteArray TempAppFolder::read(const QString& relative) const
+{
+    QFile f(file(relative));
+    if (!f.open(QIODevice::ReadOnly))
+        return {};
+    return f.readAll();
+}
+
+void TempAppFolder::write(const QString& relative, const QByteArray& bytes) const
+{
+    QDir().mkpath(QFileInfo(file(relative)).absolutePath());
+    QFile f(file(relative));
+    if (f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        f.write(bytes);
+}
+
+void WindowTest::TearDown()
+{
+    Forms::destroyAllForTesting();
+    processEvents();
+}
+
+void WindowTest::processEvents()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+std::string visible(const QString& s)
+{
+    QString v = s;
+    v.replace(QLatin1String("\r"), QLatin1String("\\r")).replace(QLatin1String("\n"), QLatin1String("\\n\n"));
+    return v.toStdString();
+}

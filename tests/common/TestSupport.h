@@ -1,0 +1,37 @@
+#pragma once
+#include "platform/ScriptedPrompts.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+// A throw-away application folder for one test. With copyData the shipped data/ folder is
+// copied in first, so the program starts as it does for a user.
+class TempAppFolder {
+public:
+    explicit TempAppFolder(bool copyData = true);
+    QString path() const { return dir.path(); }
+    QString file(const QString& relative) const { return dir.path() + QLatin1Char('/') + relative; }
+    QByteArray read(const QString& relative) const;
+    void write(const QString& relative, const QByteArray& bytes) const;
+
+private:
+    QTemporaryDir dir;
+};
+
+// Base fixture for window tests: a fresh application folder, scripted prompts, and every form
+// destroyed at the end.
+class WindowTest : public ::testing::Test {
+protected:
+    explicit WindowTest(bool copyData = true) : folder(copyData) {}
+    void TearDown() override;
+    // Lets queued events (deferred deletes, activations) run.
+    static void processEvents();
+
+    TempAppFolder folder;
+    ScriptedPrompts prompts;
+};
+
+// Makes a string's line ends visible in failure messages.
+std::string visible(const QString& s);
