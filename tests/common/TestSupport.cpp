@@ -2,6 +2,7 @@
 
 #include "platform/App.h"
 #include "platform/Forms.h"
+#include "shell/Main.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -43,6 +44,16 @@ void TempAppFolder::write(const QString& relative, const QByteArray& bytes) cons
     QFile f(file(relative));
     if (f.open(QIODevice::WriteOnly | QIODevice::Truncate))
         f.write(bytes);
+}
+
+void WindowTest::startWithoutPage()
+{
+    folder.write(QStringLiteral("Options/Details.dat"),
+                 "0\r\n1\r\n0\r\n0\r\n\"Maximized\"\r\n\"c:\\Velloro\\\"\r\n\"65\"\r\n\"HTML\"\r\n255\r\n"
+                 "\"#FF0000\"\r\n16711680\r\n\"#0000FF\"\r\n65280\r\n\"#00FF00\"\r\n\"Arial\"\r\n\"5\"\r\n"
+                 "\"MS Sans Serif\"\r\n\"8\"\r\n\"Script\"\r\n\"12\"\r\n\"Comic Sans MS\"\r\n\"14\"\r\n"
+                 "\"Lucida Console\"\r\n\"18\"\r\n\"Trebuchet MS\"\r\n\"24\"\r\n\".htm,.html\"\r\n\".htm\"\r\n1\r\n");
+    Main();
 }
 
 void WindowTest::TearDown()

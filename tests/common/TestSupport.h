@@ -28,6 +28,9 @@ protected:
     void TearDown() override;
     // Lets queued events (deferred deletes, activations) run.
     static void processEvents();
+    // Runs the start-up with settings that make no first page and keep the start screen
+    // hidden: the main window alone, as a test of a single window wants it.
+    void startWithoutPage();
 
     TempAppFolder folder;
     ScriptedPrompts prompts;
