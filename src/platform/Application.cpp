@@ -13,7 +13,8 @@ VelloroApplication::VelloroApplication(int& argc, char** argv) : QApplication(ar
 
 void VelloroApplication::prepare()
 {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // No shared OpenGL context: it would load the GL driver at every start, and the browser
+    // module, loaded later, composes its pages without one.
 }
 
 bool VelloroApplication::notify(QObject* receiver, QEvent* event)

@@ -2,15 +2,16 @@
 #include <QUrl>
 #include <QWidget>
 
-class QWebEngineView;
+class BrowserView;
 class QVBoxLayout;
 
-// The browser control. The Chromium view behind it is created on first use (a navigation or
-// the first time the control is shown), so start-up does not pay for it.
+// The browser control. The engine behind it is loaded and its view created on first use (a
+// navigation or the first time the control is shown), so start-up does not pay for it.
 class WebBrowser : public QWidget {
     Q_OBJECT
 public:
     explicit WebBrowser(QWidget* parent = nullptr);
+    ~WebBrowser() override;
 
     void Navigate(const QString& pathOrUrl);
     void GoBack();
@@ -23,7 +24,9 @@ public:
     QUrl LocationURL() const { return location; }
 
     bool isCreated() const { return view != nullptr; }
-    QWebEngineView* webView();  // creates the view when needed
+    // The page view, created when needed; null when the engine cannot be loaded (the control
+    // then says so in its own area).
+    BrowserView* pageView();
 
 Q_SIGNALS:
     // The hovered link's address, "" when the pointer leaves it, and "Done" after each load.
@@ -34,7 +37,8 @@ protected:
     void showEvent(QShowEvent* e) override;
 
 private:
-    QWebEngineView* view = nullptr;
+    BrowserView* view = nullptr;
+    bool failed = false;
     QVBoxLayout* layout = nullptr;
     QUrl location;
     double zoomFactor = 1.0;

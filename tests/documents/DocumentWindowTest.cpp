@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QSignalSpy>
+#include <QTabWidget>
 
 namespace {
 class DocumentTest : public WindowTest {
@@ -256,4 +258,31 @@ TEST_F(DocumentTest, ShutDownAsksAboutEachPageWhileItIsActive)
     EXPECT_TRUE(CloseAllWindows());
     EXPECT_EQ(folder.read(QStringLiteral("a.htm")), QByteArray("text of a"));
     EXPECT_EQ(folder.read(QStringLiteral("b.htm")), QByteArray("text of b"));
+}
+
+TEST_F(DocumentTest, PreviewLoadsThePageIntoTheBrowser)
+{
+    frmDocument* doc = newPage();
+    const QString page = folder.file(QStringLiteral("preview.html"));
+    folder.write(QStringLiteral("preview.html"),
+                 "<html><body style='background:#3481d3'><a href='http://example.invalid/x'>link</a></body></html>");
+    QSignalSpy status(doc->WebBrowser1(), &WebBrowser::StatusTextChange);
+    doc->WebBrowser1()->Navigate(page);
+    EXPECT_TRUE(doc->WebBrowser1()->isCreated());
+    auto done = [&status] {
+        for (const auto& args : status)
+            if (args.first().toString() == QLatin1String("Done"))
+                return true;
+        return false;
+    };
+    for (int i = 0; i < 60 && !done(); ++i)
+        status.wait(500);
+    ASSERT_TRUE(done()) << "no load finished";
+    EXPECT_EQ(doc->WebBrowser1()->LocationURL(), QUrl::fromLocalFile(page));
+    if (qEnvironmentVariableIsSet("VELLORO_SHOT")) {
+        doc->SSTab1->setCurrentIndex(1);
+        QSignalSpy again(doc->WebBrowser1(), &WebBrowser::StatusTextChange);
+        again.wait(3000);
+        frmMain::instance()->grab().save(qEnvironmentVariable("VELLORO_SHOT"));
+    }
 }
