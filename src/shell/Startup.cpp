@@ -32,6 +32,8 @@ QPushButton* button(const QString& name, const QString& caption, QWidget* parent
 {
     auto* b = named(new QPushButton(caption, parent), name);
     b->setStyleSheet(QLatin1String(faceStyle));
+    if (caption == QLatin1String("...."))
+        b->setMaximumWidth(36);
     return b;
 }
 

@@ -74,3 +74,14 @@ std::string visible(const QString& s)
     v.replace(QLatin1String("\r"), QLatin1String("\\r")).replace(QLatin1String("\n"), QLatin1String("\\n\n"));
     return v.toStdString();
 }
+
+void saveShot(QWidget* w, const QString& name)
+{
+    const QString dir = qEnvironmentVariable("VELLORO_SHOT_DIR");
+    if (dir.isEmpty())
+        return;
+    QDir().mkpath(dir);
+    w->show();
+    QCoreApplication::processEvents();
+    w->grab().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+}

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 // A throw-away application folder for one test. With copyData the shipped data/ folder is
@@ -35,6 +36,10 @@ protected:
     TempAppFolder folder;
     ScriptedPrompts prompts;
 };
+
+// With VELLORO_SHOT_DIR set (run under a real display), saves a picture of the widget there as
+// <name>.png, so a person can look at what a test built.
+void saveShot(QWidget* w, const QString& name);
 
 // Makes a string's line ends visible in failure messages.
 std::string visible(const QString& s);

@@ -89,8 +89,11 @@ TEST_F(GeneratorTest, StyledPageGoesThroughTheLinkColourPage)
     startup->show();
     startup->title->setText(QStringLiteral("Styled"));
     setCheckValue(startup->CSS, 1);
+    startup->showFrame(startup->frsingle);
+    saveShot(startup, QStringLiteral("startup-single"));
     startup->Command1->click();
     EXPECT_FALSE(startup->CSSFrame->isHidden()) << "Next with the style sheet ticked shows the link colours";
+    saveShot(startup, QStringLiteral("startup-links"));
     EXPECT_EQ(main->ActiveForm(), nullptr);
     startup->Combo10->setCurrentText(QStringLiteral("Underline + Upperline"));
     startup->Text8->setText(QStringLiteral("\"#FF00FF\""));

@@ -76,6 +76,7 @@ TEST_F(OptionsTest, ANodeClickShowsItsFrameAndHidesTheOthers)
         EXPECT_EQ(options->visiblePage(), frame);
     }
     // No node bears "frsave", but the key is handled.
+    saveShot(options, QStringLiteral("options-headings"));
     options->showPage(QStringLiteral("frsave"));
     EXPECT_EQ(options->visiblePage(), QStringLiteral("frsave"));
     options->showPage(QStringLiteral("nothing"));
