@@ -1,0 +1,46 @@
+#include "documents/Insertion.h"
+
+#include "documents/DocumentWindow.h"
+#include "platform/CodeMax.h"
+#include "platform/Prompts.h"
+#include "platform/RuntimeError.h"
+#include "shell/frmMain.h"
+
+namespace {
+DocumentWindow* active()
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    if (!doc)
+        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
+                           QStringLiteral("ActiveForm"));
+    return doc;
+}
+}
+
+bool ActiveIsNotepad() { return active()->Tag() == QLatin1String("Pad"); }
+
+void InsertAtCaret(const QString& text)
+{
+    active()->CodeMax1()->setSelText(text);
+    active()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
+}
+
+void InsertSelected(const QString& text) { active()->CodeMax1()->setSelText(text); }
+
+bool RefuseInNotepad()
+{
+    if (!ActiveIsNotepad())
+        return false;
+    MsgBox(QStringLiteral("You have a notepad document open, you need a web page open for this feature"), 64,
+           QStringLiteral(":: Insert Error ::"));
+    return true;
+}
+
+bool RedirectInNotepad()
+{
+    if (!ActiveIsNotepad())
+        return false;
+    MsgBox(QStringLiteral("You do need to open this because you can enter text directly into the Notepad"), 0,
+           QStringLiteral(":: Text Input ::"));
+    return true;
+}
