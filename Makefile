@@ -41,10 +41,13 @@ fuzz: deps
 	  $$h -max_total_time=60 -print_final_stats=1 build-fuzz/corpus/$$name fuzz/corpus/$$name || exit 1; \
 	done
 
+# Chromium inside the browser module frees some objects with a mismatched size and keeps a few
+# allocations to the end, which is not ours to mend: that check is off and those libraries'
+# leaks are suppressed (tests/lsan.supp); everything else is on.
 check-asan: deps
 	cmake -S . -B build-asan -G $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DVELLORO_SANITIZE=ON
 	cmake --build build-asan -j$(JOBS)
-	cd build-asan && $(TEST_ENV) ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
+	cd build-asan && $(TEST_ENV) ASAN_OPTIONS=new_delete_type_mismatch=0 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 ctest --output-on-failure -j$(JOBS)
 
 clean:
 	rm -rf $(BUILD) build-asan build-fuzz

@@ -42,7 +42,12 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
     }
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain()
+{
+    // The area announces the loss of its windows while it is destroyed; this window is no
+    // longer one to hear it by then.
+    MDIClient->disconnect(this);
+}
 
 frmMain* frmMain::instance() { return form<frmMain>(); }
 frmMain* frmMain::loaded() { return loadedForm<frmMain>(); }
