@@ -222,3 +222,30 @@ TEST_F(StartupTest, ShutDownWalksPastUnchangedPagesWithoutAsking)
     EXPECT_TRUE(prompts.prompts().isEmpty());
     EXPECT_EQ(Forms::count(), 0);
 }
+
+// Settings files of any bytes: the program starts, says what failed, and leaves the file alone.
+class DamagedSettingsTest : public WindowTest, public ::testing::WithParamInterface<std::pair<const char*, QByteArray>> {};
+
+TEST_P(DamagedSettingsTest, StartsAndSaysWhatFailed)
+{
+    const QByteArray bytes = GetParam().second;
+    folder.write(QStringLiteral("Options/Details.dat"), bytes);
+    Main();
+    frmMain* main = frmMain::loaded();
+    ASSERT_NE(main, nullptr);
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_TRUE(main->statusText(1).startsWith(QStringLiteral("Start-up stopped: Run-time error '"))) << main->statusText(1).toStdString();
+    EXPECT_EQ(folder.read(QStringLiteral("Options/Details.dat")), bytes);
+    EXPECT_TRUE(prompts.prompts().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, DamagedSettingsTest,
+    ::testing::Values(std::make_pair("empty", QByteArray()),
+                      std::make_pair("binary", QByteArray("\x00\x01\xff\xfe\x80\r\n\x00", 8).repeated(50)),
+                      std::make_pair("one_huge_line", QByteArray(8 * 1024 * 1024, '7')),
+                      std::make_pair("missing_lines", QByteArray("0\r\n1\r\n1\r\n1\r\n\"Maximized\"\r\n")),
+                      std::make_pair("stray_quote", QByteArray("0\r\n1\r\n1\r\n1\r\n\"Maximized\r\n\"c:\\\"\r\n1\r\n").repeated(3)),
+                      std::make_pair("colour_not_a_number", QByteArray("0\r\n1\r\n1\r\n1\r\nx\r\nx\r\nx\r\nx\r\nred\r\n").append(QByteArray("x\r\n").repeated(20))),
+                      std::make_pair("check_value_out_of_range", QByteArray("7\r\n").append(QByteArray("1\r\n").repeated(28)))),
+    [](const auto& info) { return std::string(info.param.first); });
