@@ -2,6 +2,7 @@
 
 #include "platform/App.h"
 #include "platform/CheckValue.h"
+#include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
@@ -23,7 +24,7 @@
 #include <QVBoxLayout>
 
 namespace {
-const char* faceStyle = "background-color: rgb(193, 210, 238);";
+using Look::named;
 
 QLabel* wrapped(const QString& text, QWidget* parent)
 {
@@ -32,30 +33,7 @@ QLabel* wrapped(const QString& text, QWidget* parent)
     return l;
 }
 
-QFrame* page(const QString& name, const QString& heading, QWidget* parent)
-{
-    auto* f = new QFrame(parent);
-    f->setObjectName(name);
-    auto* v = new QVBoxLayout(f);
-    auto* h = new QLabel(heading, f);
-    h->setStyleSheet(QStringLiteral("font-weight: bold; color: white; background-color: rgb(52, 129, 211); padding: 4px;"));
-    v->addWidget(h);
-    return f;
-}
 
-template <class W>
-W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
-
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = named(new QPushButton(caption, parent), name);
-    b->setStyleSheet(QLatin1String(faceStyle));
-    return b;
-}
 }
 
 QString detailsPath() { return App::path() + QStringLiteral("/Options/Details.dat"); }
@@ -82,12 +60,12 @@ void Options::buildPages()
     body->addLayout(pages, 1);
 
     // Welcome
-    frstart = page(QStringLiteral("frstart"), QStringLiteral("Options"), this);
+    frstart = Look::headedFrame(QStringLiteral("frstart"), QStringLiteral("Options"), this);
     frstart->layout()->addWidget(wrapped(QStringLiteral("You can change the program settings from this point, use the menu bar on the left to navigate."), frstart));
     frstart->layout()->addWidget(wrapped(QStringLiteral("Click \"Apply\" to save the changes."), frstart));
 
     // Start up
-    frstartup = page(QStringLiteral("frstartup"), QStringLiteral("Start Up"), this);
+    frstartup = Look::headedFrame(QStringLiteral("frstartup"), QStringLiteral("Start Up"), this);
     {
         auto* form = new QFormLayout;
         ToolTip = named(new QCheckBox(QStringLiteral("Enable Tooltip Box"), frstartup), QStringLiteral("ToolTip"));
@@ -117,7 +95,7 @@ void Options::buildPages()
     }
 
     // FTP
-    frftp = page(QStringLiteral("frftp"), QStringLiteral("FTP"), this);
+    frftp = Look::headedFrame(QStringLiteral("frftp"), QStringLiteral("FTP"), this);
     {
         frftp->layout()->addWidget(wrapped(QStringLiteral("Here you can save your FTP upload information to make it quicker when using the Velloro 2002 [This section is frozen, click below to create Multiple profile's]"), frftp));
         auto* form = new QFormLayout;
@@ -130,8 +108,8 @@ void Options::buildPages()
         form->addRow(QStringLiteral("Password"), ftppass);
         static_cast<QVBoxLayout*>(frftp->layout())->addLayout(form);
         auto* row = new QHBoxLayout;
-        SmartNetButton2 = button(QStringLiteral("SmartNetButton2"), QStringLiteral("Clear"), frftp);
-        Command3 = button(QStringLiteral("Command3"), QStringLiteral("Create FTP Profiles"), frftp);
+        SmartNetButton2 = Look::faceButton(QStringLiteral("SmartNetButton2"), QStringLiteral("Clear"), frftp);
+        Command3 = Look::faceButton(QStringLiteral("Command3"), QStringLiteral("Create FTP Profiles"), frftp);
         row->addWidget(SmartNetButton2);
         row->addWidget(Command3);
         row->addStretch();
@@ -145,7 +123,7 @@ void Options::buildPages()
     }
 
     // Colour
-    frcolour = page(QStringLiteral("frcolour"), QStringLiteral("Colour"), this);
+    frcolour = Look::headedFrame(QStringLiteral("frcolour"), QStringLiteral("Colour"), this);
     {
         frcolour->layout()->addWidget(wrapped(QStringLiteral("These are the three custom colours available from the ColorLab. You can set the three which are fired at startup by choosing them in the colour lab, Press the button to go there."), frcolour));
         auto* grid = new QGridLayout;
@@ -166,13 +144,13 @@ void Options::buildPages()
             ++r;
         }
         static_cast<QVBoxLayout*>(frcolour->layout())->addLayout(grid);
-        Command1 = button(QStringLiteral("Command1"), QStringLiteral("Colour Lab"), frcolour);
+        Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Colour Lab"), frcolour);
         frcolour->layout()->addWidget(Command1);
         connect(Command1, &QPushButton::clicked, this, [] { showForm(QStringLiteral("cfinderform")); });
     }
 
     // Headings
-    frheading = page(QStringLiteral("frheading"), QStringLiteral("Headings"), this);
+    frheading = Look::headedFrame(QStringLiteral("frheading"), QStringLiteral("Headings"), this);
     {
         auto* grid = new QGridLayout;
         for (int i = 0; i < 6; ++i) {
@@ -197,7 +175,7 @@ void Options::buildPages()
         Combo3->setEditable(true);
         Combo3->addItems({QStringLiteral("8"), QStringLiteral("10"), QStringLiteral("12"), QStringLiteral("14"),
                           QStringLiteral("18"), QStringLiteral("24"), QStringLiteral("36")});
-        Command6 = button(QStringLiteral("Command6"), QStringLiteral("Change"), frheading);
+        Command6 = Look::faceButton(QStringLiteral("Command6"), QStringLiteral("Change"), frheading);
         row->addWidget(new QLabel(QStringLiteral("Heading"), frheading));
         row->addWidget(Combo4);
         row->addWidget(Combo1, 1);
@@ -208,7 +186,7 @@ void Options::buildPages()
     }
 
     // Tags
-    frtag = page(QStringLiteral("frtag"), QStringLiteral("Tag's"), this);
+    frtag = Look::headedFrame(QStringLiteral("frtag"), QStringLiteral("Tag's"), this);
     {
         frtag->layout()->addWidget(wrapped(QStringLiteral("This Feature is currently disabled, due to a revamp, you can set the editor properties when an active document is open, Right Click and choose \"Editor Options\". There you can change all colours and settings."), frtag));
         auto* row = new QHBoxLayout;
@@ -216,7 +194,7 @@ void Options::buildPages()
         systype->setEditable(true);
         systype->addItems({QStringLiteral("HTML"), QStringLiteral("XML"), QStringLiteral("Java"), QStringLiteral("Basic"),
                            QStringLiteral("SQL"), QStringLiteral("Pascal"), QStringLiteral("<none>")});
-        Command2 = button(QStringLiteral("Command2"), QStringLiteral("Choose"), frtag);
+        Command2 = Look::faceButton(QStringLiteral("Command2"), QStringLiteral("Choose"), frtag);
         Shape3 = new ColourSwatch(QStringLiteral("Shape3"), frtag);
         tagc = named(new QLineEdit(QStringLiteral("\"#0000FF\""), frtag), QStringLiteral("tagc"));
         row->addWidget(new QLabel(QStringLiteral("Syntax Type"), frtag));
@@ -229,7 +207,7 @@ void Options::buildPages()
     }
 
     // File extensions
-    frmExtension = page(QStringLiteral("frmExtension"), QStringLiteral("File Extension's"), this);
+    frmExtension = Look::headedFrame(QStringLiteral("frmExtension"), QStringLiteral("File Extension's"), this);
     {
         frmExtension->layout()->addWidget(wrapped(QStringLiteral("You can choose the file extensions the file Open and Save dialogs show by entering your own extensions below, simple add a , then the extension like ,.htm"), frmExtension));
         txtSaveEx = named(new QLineEdit(frmExtension), QStringLiteral("txtSaveEx"));
@@ -241,7 +219,7 @@ void Options::buildPages()
     }
 
     // Save
-    frsave = page(QStringLiteral("frsave"), QStringLiteral("Save"), this);
+    frsave = Look::headedFrame(QStringLiteral("frsave"), QStringLiteral("Save"), this);
     frsave->layout()->addWidget(wrapped(QStringLiteral("Press the Save button below to save current options, some settings will not work until Velloro 2002 has been restarted."), frsave));
     Label31 = named(new QLabel(frsave), QStringLiteral("Label31"));
     frsave->layout()->addWidget(Label31);
@@ -252,8 +230,8 @@ void Options::buildPages()
     }
 
     auto* buttons = new QHBoxLayout;
-    SmartNetButton1 = button(QStringLiteral("SmartNetButton1"), QStringLiteral("Close"), this);
-    SmartNetButton3 = button(QStringLiteral("SmartNetButton3"), QStringLiteral("Apply"), this);
+    SmartNetButton1 = Look::faceButton(QStringLiteral("SmartNetButton1"), QStringLiteral("Close"), this);
+    SmartNetButton3 = Look::faceButton(QStringLiteral("SmartNetButton3"), QStringLiteral("Apply"), this);
     buttons->addStretch();
     buttons->addWidget(SmartNetButton3);
     buttons->addWidget(SmartNetButton1);

@@ -2,6 +2,7 @@
 
 #include "documents/PageGenerator.h"
 #include "platform/CheckValue.h"
+#include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "shell/ColourSwatch.h"
 #include "shell/Options.h"
@@ -18,36 +19,9 @@
 #include <QVBoxLayout>
 
 namespace {
-const char* faceStyle = "background-color: rgb(193, 210, 238);";
-const char* headingStyle = "font-weight: bold; color: white; background-color: rgb(52, 129, 211); padding: 6px;";
+using Look::named;
 
-template <class W>
-W* named(W* w, const QString& name)
-{
-    w->setObjectName(name);
-    return w;
-}
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = named(new QPushButton(caption, parent), name);
-    b->setStyleSheet(QLatin1String(faceStyle));
-    if (caption == QLatin1String("...."))
-        b->setMaximumWidth(36);
-    return b;
-}
-
-QFrame* frame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr)
-{
-    auto* f = named(new QFrame(parent), name);
-    auto* v = new QVBoxLayout(f);
-    auto* h = new QLabel(heading, f);
-    h->setStyleSheet(QLatin1String(headingStyle));
-    v->addWidget(h);
-    if (headingLabel)
-        *headingLabel = h;
-    return f;
-}
 
 // A task of the list: a label that acts on a click.
 class TaskLabel : public QLabel {
@@ -82,7 +56,7 @@ Startup::Startup(QWidget* parent) : QDialog(parent)
     buildFramePage();
     for (QFrame* f : {frstartup, frsingle, CSSFrame, frframe})
         layout->addWidget(f);
-    SmartNetButton1 = button(QStringLiteral("SmartNetButton1"), QStringLiteral("Close"), this);
+    SmartNetButton1 = Look::faceButton(QStringLiteral("SmartNetButton1"), QStringLiteral("Close"), this);
     auto* row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(SmartNetButton1);
@@ -96,7 +70,7 @@ Startup::Startup(QWidget* parent) : QDialog(parent)
 
 void Startup::buildTaskList()
 {
-    frstartup = frame(QStringLiteral("frstartup"), QStringLiteral("Welcome to Velloro 2002"), this);
+    frstartup = Look::headedFrame(QStringLiteral("frstartup"), QStringLiteral("Welcome to Velloro 2002"), this);
     auto* v = static_cast<QVBoxLayout*>(frstartup->layout());
     Label3 = named(new QLabel(QStringLiteral("Start A New:"), frstartup), QStringLiteral("Label3"));
     Label3->setStyleSheet(QStringLiteral("font-weight: bold;"));
@@ -122,7 +96,7 @@ void Startup::buildTaskList()
 
 void Startup::buildSinglePage()
 {
-    frsingle = frame(QStringLiteral("frsingle"), QStringLiteral("Welcome to Velloro 2002"), this, &Label30);
+    frsingle = Look::headedFrame(QStringLiteral("frsingle"), QStringLiteral("Welcome to Velloro 2002"), this, &Label30);
     Label30->setObjectName(QStringLiteral("Label30"));
     auto* grid = new QGridLayout;
     title = named(new QLineEdit(frsingle), QStringLiteral("title"));
@@ -135,10 +109,10 @@ void Startup::buildSinglePage()
     Shape3->setBackColor(0x000000);
     Shape4 = new ColourSwatch(QStringLiteral("Shape4"), frsingle);
     Shape4->setBackColor(0xFFFFFF);
-    Command3 = button(QStringLiteral("Command3"), QStringLiteral("...."), frsingle);
-    Command4 = button(QStringLiteral("Command4"), QStringLiteral("...."), frsingle);
-    Command5 = button(QStringLiteral("Command5"), QStringLiteral("...."), frsingle);
-    Command7 = button(QStringLiteral("Command7"), QStringLiteral("...."), frsingle);
+    Command3 = Look::faceButton(QStringLiteral("Command3"), QStringLiteral("...."), frsingle);
+    Command4 = Look::faceButton(QStringLiteral("Command4"), QStringLiteral("...."), frsingle);
+    Command5 = Look::faceButton(QStringLiteral("Command5"), QStringLiteral("...."), frsingle);
+    Command7 = Look::faceButton(QStringLiteral("Command7"), QStringLiteral("...."), frsingle);
     Check2 = named(new QCheckBox(frsingle), QStringLiteral("Check2"));
     CSS = named(new QCheckBox(QStringLiteral("Set Style sheet?"), frsingle), QStringLiteral("CSS"));
 
@@ -171,8 +145,8 @@ void Startup::buildSinglePage()
     v->addLayout(grid);
     v->addStretch();
     auto* nav = new QHBoxLayout;
-    Command2 = button(QStringLiteral("Command2"), QStringLiteral("Previous"), frsingle);
-    Command1 = button(QStringLiteral("Command1"), QStringLiteral("Next"), frsingle);
+    Command2 = Look::faceButton(QStringLiteral("Command2"), QStringLiteral("Previous"), frsingle);
+    Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Next"), frsingle);
     nav->addStretch();
     nav->addWidget(Command2);
     nav->addWidget(Command1);
@@ -198,7 +172,7 @@ void Startup::buildSinglePage()
 
 void Startup::buildStylePage()
 {
-    CSSFrame = frame(QStringLiteral("CSSFrame"), QStringLiteral("Link Colours"), this);
+    CSSFrame = Look::headedFrame(QStringLiteral("CSSFrame"), QStringLiteral("Link Colours"), this);
     auto* grid = new QGridLayout;
     struct Row { const char* caption; QLineEdit** text; QComboBox** combo; ColourSwatch** swatch; QPushButton** button; int n; int cmd; };
     const Row rows[] = {{"A Link ", &Text7, &Combo7, &Shape7, &Command6, 7, 6},
@@ -213,7 +187,7 @@ void Startup::buildStylePage()
         (*row.combo)->setCurrentText(QStringLiteral("Underlined"));
         *row.swatch = new ColourSwatch(QStringLiteral("Shape%1").arg(row.n), CSSFrame);
         (*row.swatch)->setBackColor(0xFF0000);
-        *row.button = button(QStringLiteral("Command%1").arg(row.cmd), QStringLiteral("...."), CSSFrame);
+        *row.button = Look::faceButton(QStringLiteral("Command%1").arg(row.cmd), QStringLiteral("...."), CSSFrame);
         grid->addWidget(new QLabel(QString::fromLatin1(row.caption), CSSFrame), r, 0);
         grid->addWidget(*row.text, r, 1);
         grid->addWidget(*row.swatch, r, 2);
@@ -228,8 +202,8 @@ void Startup::buildStylePage()
     v->addLayout(grid);
     v->addStretch();
     auto* nav = new QHBoxLayout;
-    Command13 = button(QStringLiteral("Command13"), QStringLiteral("Back"), CSSFrame);
-    Command12 = button(QStringLiteral("Command12"), QStringLiteral("Next"), CSSFrame);
+    Command13 = Look::faceButton(QStringLiteral("Command13"), QStringLiteral("Back"), CSSFrame);
+    Command12 = Look::faceButton(QStringLiteral("Command12"), QStringLiteral("Next"), CSSFrame);
     nav->addStretch();
     nav->addWidget(Command13);
     nav->addWidget(Command12);
@@ -240,7 +214,7 @@ void Startup::buildStylePage()
 
 void Startup::buildFramePage()
 {
-    frframe = frame(QStringLiteral("frframe"), QStringLiteral("Framed Web Site"), this);
+    frframe = Look::headedFrame(QStringLiteral("frframe"), QStringLiteral("Framed Web Site"), this);
     auto* v = static_cast<QVBoxLayout*>(frframe->layout());
     auto* Label27 = named(new QLabel(QStringLiteral("Just select the options below then click on a template on the left, the frames will be created. You must save the pages in the same directory for the index.html to work."), frframe), QStringLiteral("Label27"));
     Label27->setWordWrap(true);
@@ -252,7 +226,7 @@ void Startup::buildFramePage()
     frco = named(new QLineEdit(frframe), QStringLiteral("frco"));
     Text5 = named(new QLineEdit(frframe), QStringLiteral("Text5"));
     Shape5 = new ColourSwatch(QStringLiteral("Shape5"), frframe);
-    Command14 = button(QStringLiteral("Command14"), QStringLiteral("...."), frframe);
+    Command14 = Look::faceButton(QStringLiteral("Command14"), QStringLiteral("...."), frframe);
     form->addRow(QStringLiteral("Frame Spacing"), frsp);
     form->addRow(QStringLiteral("Border"), bo);
     form->addRow(QStringLiteral("Frame Border"), frbo);
@@ -265,8 +239,8 @@ void Startup::buildFramePage()
     v->addLayout(form);
     v->addStretch();
     auto* nav = new QHBoxLayout;
-    Command16 = button(QStringLiteral("Command16"), QStringLiteral("Previous"), frframe);
-    Command11 = button(QStringLiteral("Command11"), QStringLiteral("Close"), frframe);
+    Command16 = Look::faceButton(QStringLiteral("Command16"), QStringLiteral("Previous"), frframe);
+    Command11 = Look::faceButton(QStringLiteral("Command11"), QStringLiteral("Close"), frframe);
     nav->addStretch();
     nav->addWidget(Command16);
     nav->addWidget(Command11);

@@ -1,0 +1,31 @@
+#include "platform/Look.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Look {
+
+QPushButton* faceButton(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* b = named(new QPushButton(caption, parent), name);
+    b->setStyleSheet(QStringLiteral("background-color: %1;").arg(face.name()));
+    if (caption == QLatin1String("...."))
+        b->setMaximumWidth(36);
+    return b;
+}
+
+QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel)
+{
+    auto* f = named(new QFrame(parent), name);
+    auto* v = new QVBoxLayout(f);
+    auto* h = new QLabel(heading, f);
+    h->setStyleSheet(QStringLiteral("font-weight: bold; color: white; background-color: %1; padding: 5px;").arg(Look::heading.name()));
+    v->addWidget(h);
+    if (headingLabel)
+        *headingLabel = h;
+    return f;
+}
+
+}

@@ -1,0 +1,29 @@
+#pragma once
+#include <QColor>
+#include <QString>
+
+class QFrame;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+// The program's look: the heading blue of bars and margins, the face colour of buttons, the
+// face of tabs, and the few ways every window builds its controls with them.
+namespace Look {
+inline const QColor heading(52, 129, 211);
+inline const QColor face(193, 210, 238);
+inline const QColor tabFace(255, 255, 240);
+
+// Gives a control its name, so that code and tests reach it by the system's name.
+template <class W>
+W* named(W* w, const QString& name)
+{
+    w->setObjectName(name);
+    return w;
+}
+
+// A button in the face colour; a "...." button stays narrow.
+QPushButton* faceButton(const QString& name, const QString& caption, QWidget* parent);
+// A frame (one page of a window) with a heading bar; the heading label is handed out on request.
+QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr);
+}
