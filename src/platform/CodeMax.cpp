@@ -54,11 +54,10 @@ QString CodeMax::SelText() const { return selectedText(); }
 
 void CodeMax::setSelText(const QString& text)
 {
+    // Replacing the selection (empty or not) is one editor action, which a macro records; the
+    // caret then stands behind the text, as it will when the macro plays.
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
-    if (hasSelectedText())
-        replaceSelectedText(text);
-    else
-        insert(text);
+    replaceSelectedText(text);
     const long end = start + text.toUtf8().size();
     SendScintilla(SCI_SETSEL, start, end);
 }
@@ -86,12 +85,21 @@ void CodeMax::collapseSelectionRight()
     }
 }
 
+void CodeMax::changeCase(bool upper)
+{
+    // The editor's own case commands know only ASCII letters; the text's own rules know all.
+    if (!hasSelectedText())
+        return;
+    const QString selected = selectedText();
+    setSelText(upper ? selected.toUpper() : selected.toLower());
+}
+
 void CodeMax::ExecuteCmd(int command)
 {
     switch (command) {
-    case UpperCase: SendScintilla(SCI_UPPERCASE); return;
+    case UpperCase: changeCase(true); return;
     case SelectAll: selectAll(true); return;
-    case LowerCase: SendScintilla(SCI_LOWERCASE); return;
+    case LowerCase: changeCase(false); return;
     case LineUp: SendScintilla(SCI_LINEUP); return;
     case LineDown: SendScintilla(SCI_LINEDOWN); return;
     case DeleteLine: SendScintilla(SCI_LINEDELETE); return;

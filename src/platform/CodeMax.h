@@ -69,6 +69,7 @@ Q_SIGNALS:
 
 private:
     void collapseSelectionRight();
+    void changeCase(bool upper);
     void toggleRecording();
     void playMacro(int slot);
     void updateLineNumberWidth();

@@ -9,6 +9,8 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 namespace {
@@ -104,6 +106,14 @@ std::optional<int> QtPrompts::colour(int initial)
     if (!c.isValid())
         return std::nullopt;
     return c.red() | (c.green() << 8) | (c.blue() << 16);
+}
+
+bool QtPrompts::print(QPrinter& printer, bool offerSelection)
+{
+    QPrintDialog dialog(&printer, dialogParent());
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, offerSelection);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 std::optional<QFont> QtPrompts::font(const QFont& initial)

@@ -1,5 +1,7 @@
 #pragma once
 #include <QFont>
+
+class QPrinter;
 #include <QString>
 #include <optional>
 
@@ -26,6 +28,9 @@ public:
     // The platform colour value (red in the low byte), nothing when cancelled.
     virtual std::optional<int> colour(int initial) = 0;
     virtual std::optional<QFont> font(const QFont& initial) = 0;
+    // The print dialog on a printer; offerSelection lets the user print the selection only.
+    // False when cancelled.
+    virtual bool print(QPrinter& printer, bool offerSelection) = 0;
 };
 
 // The handler in force; the real one (Qt dialogs) unless a test has installed another.
@@ -46,4 +51,5 @@ public:
     QString folder(const QString& title, const QString& start) override;
     std::optional<int> colour(int initial) override;
     std::optional<QFont> font(const QFont& initial) override;
+    bool print(QPrinter& printer, bool offerSelection) override;
 };

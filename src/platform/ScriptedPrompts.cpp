@@ -1,5 +1,6 @@
 #include "platform/ScriptedPrompts.h"
 
+#include <QPrinter>
 #include <QtGlobal>
 
 namespace {
@@ -50,6 +51,12 @@ ScriptedPrompts& ScriptedPrompts::answerColour(std::optional<int> colour)
 ScriptedPrompts& ScriptedPrompts::answerFont(std::optional<QFont> font)
 {
     queue.append({QStringLiteral("Font"), font ? QVariant(*font) : QVariant()});
+    return *this;
+}
+
+ScriptedPrompts& ScriptedPrompts::answerPrint(const QString& pdfPath)
+{
+    queue.append({QStringLiteral("Print"), pdfPath});
     return *this;
 }
 
@@ -105,4 +112,14 @@ std::optional<QFont> ScriptedPrompts::font(const QFont&)
     if (!v.isValid())
         return std::nullopt;
     return v.value<QFont>();
+}
+
+bool ScriptedPrompts::print(QPrinter& printer, bool offerSelection)
+{
+    const QString pdf = take({QStringLiteral("Print"), QString(), offerSelection ? 1 : 0, QString()}, QString()).toString();
+    if (pdf.isEmpty())
+        return false;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(pdf);
+    return true;
 }

@@ -11,7 +11,7 @@
 class ScriptedPrompts : public PromptHandler {
 public:
     struct Prompt {
-        QString kind;  // "MsgBox", "InputBox", "OpenFile", "SaveFile", "Folder", "Colour", "Font"
+        QString kind;  // "MsgBox", "InputBox", "OpenFile", "SaveFile", "Folder", "Colour", "Font", "Print"
         QString text;
         int style = 0;
         QString title;
@@ -30,6 +30,9 @@ public:
     ScriptedPrompts& answerFolder(const QString& path);
     ScriptedPrompts& answerColour(std::optional<int> colour);   // nullopt = cancelled
     ScriptedPrompts& answerFont(std::optional<QFont> font);
+    // The print dialog prints into this PDF file; empty = cancelled. The prompt's style records
+    // whether the selection was offered (1) or not (0).
+    ScriptedPrompts& answerPrint(const QString& pdfPath);
 
     const QList<Prompt>& prompts() const { return seen; }
     const Prompt& last() const;
@@ -46,6 +49,7 @@ public:
     QString folder(const QString& title, const QString& start) override;
     std::optional<int> colour(int initial) override;
     std::optional<QFont> font(const QFont& initial) override;
+    bool print(QPrinter& printer, bool offerSelection) override;
 
 private:
     struct Queued { QString kind; QVariant value; };

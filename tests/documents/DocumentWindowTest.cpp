@@ -2,6 +2,7 @@
 #include "common/TestSupport.h"
 
 #include "documents/PageGenerator.h"
+#include "documents/Printing.h"
 #include "documents/frmDocument.h"
 #include "platform/CodeMax.h"
 #include "platform/RichTextBox.h"
@@ -285,4 +286,22 @@ TEST_F(DocumentTest, PreviewLoadsThePageIntoTheBrowser)
         again.wait(3000);
         frmMain::instance()->grab().save(qEnvironmentVariable("VELLORO_SHOT"));
     }
+}
+
+TEST_F(DocumentTest, PrintGoesThroughTheRichTextCopy)
+{
+    frmDocument* doc = newPage();
+    doc->CodeMax1()->setText(QStringLiteral("<p>printed page</p>"));
+    const QString pdf = folder.file(QStringLiteral("out.pdf"));
+    prompts.answerPrint(pdf);
+    PrintDocument();
+    EXPECT_EQ(doc->RichTextBox1()->text(), QStringLiteral("<p>printed page</p>")) << "the code is copied first";
+    EXPECT_EQ(prompts.last().kind, QStringLiteral("Print"));
+    EXPECT_EQ(prompts.last().style, 0) << "no selection to offer";
+    EXPECT_TRUE(folder.read(QStringLiteral("out.pdf")).startsWith("%PDF"));
+
+    prompts.answerPrint(QString());
+    QFile::remove(pdf);
+    PrintDocument();
+    EXPECT_FALSE(QFile::exists(pdf)) << "a cancelled dialog prints nothing";
 }

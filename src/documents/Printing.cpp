@@ -1,0 +1,23 @@
+#include "documents/Printing.h"
+
+#include "documents/DocumentWindow.h"
+#include "platform/CodeMax.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/RuntimeError.h"
+#include "shell/frmMain.h"
+
+#include <QPrinter>
+
+void PrintDocument()
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    if (!doc)
+        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("PrintDocument"));
+    if (doc->Tag() != QLatin1String("Pad"))
+        doc->RichTextBox1()->setText(doc->CodeMax1()->text());
+    QPrinter printer;
+    if (!prompts().print(printer, doc->RichTextBox1()->SelLength() != 0))
+        return;
+    doc->RichTextBox1()->SelPrint(&printer);
+}

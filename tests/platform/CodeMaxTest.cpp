@@ -1,0 +1,549 @@
+// The code editor control: the insertion rule, the editor command numbers, macros, files,
+// languages and the change event.
+#include "common/TestSupport.h"
+
+#include "platform/CodeMax.h"
+#include "platform/RuntimeError.h"
+
+#include <Qsci/qscilexer.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+using Sci = QsciScintillaBase;
+
+class CodeMaxTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        editor.resize(600, 400);
+        ASSERT_TRUE(dir.isValid());
+    }
+
+    // Positions in characters, as the user sees them (the control itself counts bytes).
+    int caret() const
+    {
+        const long pos = editor.SendScintilla(Sci::SCI_GETCURRENTPOS);
+        return static_cast<int>(editor.SendScintilla(Sci::SCI_COUNTCHARACTERS, 0UL, pos));
+    }
+    long bytePos(int chars) const
+    {
+        return editor.SendScintilla(Sci::SCI_POSITIONRELATIVE, 0UL, static_cast<long>(chars));
+    }
+    void setCaret(int chars) { editor.SendScintilla(Sci::SCI_GOTOPOS, bytePos(chars)); }
+    void select(int fromChars, int toChars)
+    {
+        editor.SendScintilla(Sci::SCI_SETSEL, bytePos(fromChars), bytePos(toChars));
+    }
+    int caretLine() const
+    {
+        int line = -1, index = -1;
+        editor.getCursorPosition(&line, &index);
+        return line;
+    }
+    // The insertion rule every wizard ends in.
+    void insert(const QString& fragment)
+    {
+        editor.setSelText(fragment);
+        editor.ExecuteCmd(201);
+    }
+    void type(const QString& chars)
+    {
+        for (const QChar c : chars) {
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+            QCoreApplication::sendEvent(&editor, &press);
+        }
+    }
+    QByteArray readFile(const QString& path) const
+    {
+        QFile f(path);
+        if (!f.open(QIODevice::ReadOnly))
+            return QByteArray("<missing>");
+        return f.readAll();
+    }
+    void writeFile(const QString& path, const QByteArray& bytes) const
+    {
+        QFile f(path);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(bytes);
+    }
+
+    ScriptedPrompts prompts;
+    QTemporaryDir dir;
+    CodeMax editor;
+};
+
+void expectRuntimeError(int number, const std::function<void()>& f, const char* what)
+{
+    try {
+        f();
+        ADD_FAILURE() << what << ": no run-time error";
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number, number) << what;
+    }
+}
+}
+
+TEST_F(CodeMaxTest, IsNamedAndStartsEmpty)
+{
+    EXPECT_EQ(editor.objectName(), QStringLiteral("CodeMax1"));
+    EXPECT_EQ(editor.text(), QString());
+    EXPECT_EQ(editor.TextLength(), 0);
+    EXPECT_EQ(editor.LineCount(), 1);
+    EXPECT_EQ(editor.SelLength(), 0);
+}
+
+// ---- The insertion rule --------------------------------------------------------------------
+
+TEST_F(CodeMaxTest, InsertionLeavesTheCaretBehindTheTextWithNothingSelected)
+{
+    editor.setSelText(QStringLiteral("<b></b>"));
+    EXPECT_EQ(editor.SelText(), QStringLiteral("<b></b>")) << "the new text stays selected until 201";
+    EXPECT_EQ(editor.SelLength(), 7);
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(editor.text(), QStringLiteral("<b></b>"));
+    EXPECT_EQ(caret(), 7);
+    EXPECT_FALSE(editor.hasSelectedText());
+    EXPECT_EQ(editor.SelLength(), 0);
+    EXPECT_EQ(editor.SelText(), QString());
+
+    // A second fragment lands behind the first.
+    insert(QStringLiteral("<i></i>"));
+    EXPECT_EQ(editor.text(), QStringLiteral("<b></b><i></i>"));
+    EXPECT_EQ(caret(), 14);
+}
+
+TEST_F(CodeMaxTest, InsertionAtACaretInsideTheText)
+{
+    editor.setText(QStringLiteral("abcdef"));
+    setCaret(3);
+    insert(QStringLiteral("XY"));
+    EXPECT_EQ(editor.text(), QStringLiteral("abcXYdef"));
+    EXPECT_EQ(caret(), 5);
+    EXPECT_FALSE(editor.hasSelectedText());
+    insert(QStringLiteral("Z"));
+    EXPECT_EQ(editor.text(), QStringLiteral("abcXYZdef"));
+}
+
+TEST_F(CodeMaxTest, InsertionReplacesTheSelection)
+{
+    editor.setText(QStringLiteral("Hello World!"));
+    select(6, 11);
+    ASSERT_EQ(editor.SelText(), QStringLiteral("World"));
+    editor.setSelText(QStringLiteral("There"));
+    EXPECT_EQ(editor.SelText(), QStringLiteral("There"));
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(editor.text(), QStringLiteral("Hello There!"));
+    EXPECT_EQ(caret(), 11);
+    EXPECT_FALSE(editor.hasSelectedText());
+
+    // A selection made from right to left is replaced just the same.
+    editor.SendScintilla(Sci::SCI_SETSEL, bytePos(5), bytePos(0));
+    insert(QStringLiteral("Bye"));
+    EXPECT_EQ(editor.text(), QStringLiteral("Bye There!"));
+    EXPECT_EQ(caret(), 3);
+
+    // A longer and a shorter replacement.
+    select(4, 9);
+    insert(QStringLiteral("everybody"));
+    EXPECT_EQ(editor.text(), QStringLiteral("Bye everybody!"));
+    EXPECT_EQ(caret(), 13);
+    // Assigning nothing removes the selection.
+    select(0, 13);
+    editor.setSelText(QString());
+    EXPECT_EQ(editor.text(), QStringLiteral("!"));
+    EXPECT_EQ(caret(), 0);
+    EXPECT_FALSE(editor.hasSelectedText());
+}
+
+TEST_F(CodeMaxTest, InsertionOfNonAsciiTextPositionsByCharacters)
+{
+    editor.setText(QStringLiteral("x\u00E9y"));  // xéy
+    setCaret(2);
+    editor.setSelText(QStringLiteral("\u00E9\u20AC"));  // é€
+    EXPECT_EQ(editor.SelText(), QStringLiteral("\u00E9\u20AC"));
+    EXPECT_EQ(editor.SelLength(), 2);
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(editor.text(), QStringLiteral("x\u00E9\u00E9\u20ACy"));
+    EXPECT_EQ(caret(), 4);
+    EXPECT_FALSE(editor.hasSelectedText());
+
+    // The next insertion lands right behind, not inside a character.
+    insert(QStringLiteral("!"));
+    EXPECT_EQ(editor.text(), QStringLiteral("x\u00E9\u00E9\u20AC!y"));
+
+    // Replacing a selection of non-ASCII text with non-ASCII text.
+    select(1, 4);
+    ASSERT_EQ(editor.SelText(), QStringLiteral("\u00E9\u00E9\u20AC"));
+    insert(QStringLiteral("\u00FC\u00DF"));  // üß
+    EXPECT_EQ(editor.text(), QStringLiteral("x\u00FC\u00DF!y"));
+    EXPECT_EQ(caret(), 3);
+    insert(QStringLiteral("\u20AC"));
+    EXPECT_EQ(editor.text(), QStringLiteral("x\u00FC\u00DF\u20AC!y"));
+}
+
+TEST_F(CodeMaxTest, FragmentOnLinesOfItsOwn)
+{
+    editor.setText(QStringLiteral("<body></body>"));
+    setCaret(6);
+    insert(QStringLiteral("\r\n<hr>\r\n"));
+    EXPECT_EQ(editor.text(), QStringLiteral("<body>\r\n<hr>\r\n</body>"));
+    EXPECT_EQ(editor.LineCount(), 3);
+    EXPECT_EQ(caretLine(), 2);
+    EXPECT_EQ(caret(), 14);
+}
+
+TEST_F(CodeMaxTest, CommandStepsRightWithoutSelection)
+{
+    editor.setText(QStringLiteral("a\u20ACc"));
+    setCaret(0);
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(caret(), 1);
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(caret(), 2) << "one step is one character, however many bytes it has";
+    editor.ExecuteCmd(201);
+    editor.ExecuteCmd(201);
+    EXPECT_EQ(caret(), 3) << "the end of the text stops it";
+    EXPECT_EQ(editor.text(), QStringLiteral("a\u20ACc"));
+}
+
+// ---- Editor command numbers ----------------------------------------------------------------
+
+TEST_F(CodeMaxTest, CaseCommandsChangeOnlyTheSelection)
+{
+    editor.setText(QStringLiteral("hello big World"));
+    select(6, 9);
+    editor.ExecuteCmd(125);
+    EXPECT_EQ(editor.text(), QStringLiteral("hello BIG World"));
+    select(10, 15);
+    editor.ExecuteCmd(147);
+    EXPECT_EQ(editor.text(), QStringLiteral("hello BIG world"));
+    select(0, 9);
+    editor.ExecuteCmd(147);
+    EXPECT_EQ(editor.text(), QStringLiteral("hello big world"));
+    EXPECT_EQ(editor.SelText(), QStringLiteral("hello big")) << "the selection stays";
+}
+
+TEST_F(CodeMaxTest, CaseCommandsChangeAccentedLetters)
+{
+    editor.setText(QStringLiteral("caf\u00E9 na\u00EFve \u00E0 la"));
+    editor.ExecuteCmd(137);
+    editor.ExecuteCmd(125);
+    EXPECT_EQ(editor.text(), QStringLiteral("CAF\u00C9 NA\u00CFVE \u00C0 LA")) << visible(editor.text());
+    editor.setText(QStringLiteral("CAF\u00C9 NA\u00CFVE \u00C0 LA"));
+    editor.ExecuteCmd(137);
+    editor.ExecuteCmd(147);
+    EXPECT_EQ(editor.text(), QStringLiteral("caf\u00E9 na\u00EFve \u00E0 la")) << visible(editor.text());
+}
+
+TEST_F(CodeMaxTest, SelectAll)
+{
+    const QString text = QStringLiteral("<p>\r\n\u00E9t\u00E9\r\n</p>");
+    editor.setText(text);
+    setCaret(3);
+    editor.ExecuteCmd(137);
+    EXPECT_EQ(editor.SelText(), text);
+    EXPECT_EQ(editor.SelLength(), 14);
+    EXPECT_EQ(editor.text(), text);
+}
+
+TEST_F(CodeMaxTest, LineUpAndDown)
+{
+    editor.setText(QStringLiteral("one\r\ntwo\r\nthree"));
+    editor.setCursorPosition(1, 1);
+    editor.ExecuteCmd(149);
+    EXPECT_EQ(caretLine(), 0);
+    editor.ExecuteCmd(149);
+    EXPECT_EQ(caretLine(), 0) << "the first line stops it";
+    editor.ExecuteCmd(157);
+    EXPECT_EQ(caretLine(), 1);
+    editor.ExecuteCmd(157);
+    EXPECT_EQ(caretLine(), 2);
+    editor.ExecuteCmd(157);
+    EXPECT_EQ(caretLine(), 2) << "the last line stops it";
+    EXPECT_EQ(editor.text(), QStringLiteral("one\r\ntwo\r\nthree"));
+}
+
+TEST_F(CodeMaxTest, DeleteCurrentLine)
+{
+    editor.setText(QStringLiteral("one\r\ntwo\r\nthree"));
+    editor.setCursorPosition(1, 2);
+    editor.ExecuteCmd(160);
+    EXPECT_EQ(editor.text(), QStringLiteral("one\r\nthree"));
+    EXPECT_EQ(editor.LineCount(), 2);
+    editor.setCursorPosition(0, 0);
+    editor.ExecuteCmd(160);
+    EXPECT_EQ(editor.text(), QStringLiteral("three"));
+}
+
+TEST_F(CodeMaxTest, FindReplaceAndPropertiesAreHandedToTheirOwners)
+{
+    QSignalSpy find(&editor, &CodeMax::findReplaceRequested);
+    QSignalSpy props(&editor, &CodeMax::propertiesRequested);
+    editor.setText(QStringLiteral("text"));
+    editor.ExecuteCmd(169);
+    EXPECT_EQ(find.count(), 1);
+    EXPECT_EQ(props.count(), 0);
+    editor.ExecuteCmd(224);
+    EXPECT_EQ(find.count(), 1);
+    EXPECT_EQ(props.count(), 1);
+    EXPECT_EQ(editor.text(), QStringLiteral("text"));
+}
+
+TEST_F(CodeMaxTest, OtherNumbersAreInvalidCalls)
+{
+    editor.setText(QStringLiteral("keep me"));
+    setCaret(2);
+    QSignalSpy find(&editor, &CodeMax::findReplaceRequested);
+    QSignalSpy props(&editor, &CodeMax::propertiesRequested);
+    for (int n : {0, 1, -1, 124, 126, 136, 148, 150, 158, 161, 168, 170, 200, 202, 212, 225, 1000}) {
+        expectRuntimeError(5, [&] { editor.ExecuteCmd(n); }, qPrintable(QString::number(n)));
+    }
+    EXPECT_EQ(editor.text(), QStringLiteral("keep me"));
+    EXPECT_EQ(caret(), 2);
+    EXPECT_FALSE(editor.isRecordingMacro());
+    EXPECT_EQ(find.count(), 0);
+    EXPECT_EQ(props.count(), 0);
+}
+
+// ---- Macros --------------------------------------------------------------------------------
+
+TEST_F(CodeMaxTest, MacroRecordedFromTypingPlaysBackFromItsSlot)
+{
+    editor.setMacroRecordSlot(3);
+    EXPECT_EQ(editor.macroRecordSlot(), 3);
+    editor.ExecuteCmd(213);
+    EXPECT_TRUE(editor.isRecordingMacro());
+    type(QStringLiteral("ab"));
+    editor.SendScintilla(Sci::SCI_NEWLINE);
+    type(QStringLiteral("c"));
+    editor.ExecuteCmd(213);
+    EXPECT_FALSE(editor.isRecordingMacro());
+    ASSERT_EQ(editor.text(), QStringLiteral("ab\r\nc")) << "typing reached the editor";
+    EXPECT_TRUE(editor.hasMacro(3));
+
+    editor.setText(QString());
+    editor.ExecuteCmd(216);
+    EXPECT_EQ(editor.text(), QStringLiteral("ab\r\nc"));
+    editor.ExecuteCmd(216);
+    EXPECT_EQ(editor.text(), QStringLiteral("ab\r\ncab\r\nc")) << "each play repeats it at the caret";
+
+    // The other slots are empty: playing them does nothing.
+    for (int n = 214; n <= 223; ++n) {
+        if (n == 216)
+            continue;
+        EXPECT_FALSE(editor.hasMacro(n - 213)) << n;
+        editor.ExecuteCmd(n);
+        EXPECT_EQ(editor.text(), QStringLiteral("ab\r\ncab\r\nc")) << n;
+    }
+}
+
+TEST_F(CodeMaxTest, MacroOfInsertionsPlaysBackTheSameText)
+{
+    editor.setMacroRecordSlot(3);
+    editor.ExecuteCmd(213);
+    insert(QStringLiteral("<b>"));
+    insert(QStringLiteral("x"));
+    insert(QStringLiteral("</b>"));
+    editor.ExecuteCmd(213);
+    ASSERT_EQ(editor.text(), QStringLiteral("<b>x</b>"));
+
+    editor.setText(QString());
+    editor.ExecuteCmd(216);
+    EXPECT_EQ(editor.text(), QStringLiteral("<b>x</b>")) << visible(editor.text());
+    EXPECT_EQ(caret(), 8);
+}
+
+TEST_F(CodeMaxTest, RecordingAgainReplacesTheSlotAndOtherSlotsAreKept)
+{
+    editor.setMacroRecordSlot(3);
+    editor.ExecuteCmd(213);
+    type(QStringLiteral("one"));
+    editor.ExecuteCmd(213);
+    editor.setMacroRecordSlot(10);
+    editor.ExecuteCmd(213);
+    type(QStringLiteral("ten"));
+    editor.ExecuteCmd(213);
+    editor.setMacroRecordSlot(3);
+    editor.ExecuteCmd(213);
+    type(QStringLiteral("new"));
+    editor.ExecuteCmd(213);
+
+    editor.setText(QString());
+    editor.ExecuteCmd(216);
+    EXPECT_EQ(editor.text(), QStringLiteral("new"));
+    editor.ExecuteCmd(223);
+    EXPECT_EQ(editor.text(), QStringLiteral("newten"));
+}
+
+// ---- Files ---------------------------------------------------------------------------------
+
+TEST_F(CodeMaxTest, SaveAndOpenKeepCrLfAndUtf8)
+{
+    const QString path = dir.filePath(QStringLiteral("page.htm"));
+    editor.setText(QStringLiteral("<p>caf\u00E9 \u20AC</p>\r\n<p>two</p>\r\n"));
+    editor.SaveFile(path, true);
+    EXPECT_EQ(readFile(path), QByteArray("<p>caf\xC3\xA9 \xE2\x82\xAC</p>\r\n<p>two</p>\r\n"));
+
+    CodeMax other;
+    QSignalSpy changed(&other, &CodeMax::Change);
+    other.OpenFile(path);
+    EXPECT_EQ(other.text(), QStringLiteral("<p>caf\u00E9 \u20AC</p>\r\n<p>two</p>\r\n"));
+    EXPECT_GE(changed.count(), 1) << "loading a file is a change";
+    EXPECT_EQ(other.LineCount(), 3);
+}
+
+TEST_F(CodeMaxTest, OpenReadsWindows1252WhenTheFileIsNotUtf8)
+{
+    const QString path = dir.filePath(QStringLiteral("old.htm"));
+    writeFile(path, QByteArray("caf\xE9 \x80 \x93quoted\x94\r\n"));
+    editor.OpenFile(path);
+    EXPECT_EQ(editor.text(), QStringLiteral("caf\u00E9 \u20AC \u201Cquoted\u201D\r\n"));
+}
+
+TEST_F(CodeMaxTest, SaveOverwritesOnlyWhenAllowed)
+{
+    const QString path = dir.filePath(QStringLiteral("exists.htm"));
+    writeFile(path, QByteArray("old"));
+    editor.setText(QStringLiteral("new"));
+
+    expectRuntimeError(58, [&] { editor.SaveFile(path, false); }, "overwrite false on an existing file");
+    EXPECT_EQ(readFile(path), QByteArray("old"));
+
+    editor.SaveFile(path, true);
+    EXPECT_EQ(readFile(path), QByteArray("new"));
+
+    const QString fresh = dir.filePath(QStringLiteral("fresh.htm"));
+    editor.SaveFile(fresh, false);
+    EXPECT_EQ(readFile(fresh), QByteArray("new"));
+}
+
+TEST_F(CodeMaxTest, OpenOfAMissingFileIsFileNotFound)
+{
+    editor.setText(QStringLiteral("unchanged"));
+    expectRuntimeError(53, [&] { editor.OpenFile(dir.filePath(QStringLiteral("missing.htm"))); }, "missing file");
+    EXPECT_EQ(editor.text(), QStringLiteral("unchanged"));
+    expectRuntimeError(53, [&] { editor.OpenFile(dir.filePath(QStringLiteral("nofolder/missing.htm"))); },
+                       "missing folder");
+}
+
+TEST_F(CodeMaxTest, SaveIntoAMissingFolderIsPathFileAccessErrorAndLeavesNothing)
+{
+    const QString folder = dir.filePath(QStringLiteral("nofolder"));
+    const QString path = folder + QStringLiteral("/page.htm");
+    editor.setText(QStringLiteral("text"));
+    expectRuntimeError(75, [&] { editor.SaveFile(path, true); }, "missing folder");
+    EXPECT_FALSE(QFileInfo::exists(path));
+    EXPECT_FALSE(QFileInfo::exists(folder)) << "no folder is made on the way";
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden), QStringList());
+}
+
+// ---- Languages -----------------------------------------------------------------------------
+
+TEST_F(CodeMaxTest, LanguageByNameAndPlainTextForUnknownNames)
+{
+    EXPECT_EQ(editor.lexer(), nullptr);
+    editor.setLanguage(QStringLiteral("HTML"));
+    ASSERT_NE(editor.lexer(), nullptr);
+    EXPECT_STREQ(editor.lexer()->language(), "HTML");
+    EXPECT_EQ(editor.Language(), QStringLiteral("HTML"));
+
+    for (const char* name : {"Basic", "nonsense", ""}) {
+        editor.setLanguage(QStringLiteral("HTML"));
+        ASSERT_NE(editor.lexer(), nullptr);
+        editor.setLanguage(QString::fromLatin1(name));
+        EXPECT_EQ(editor.lexer(), nullptr) << "'" << name << "' shows plain text";
+    }
+
+    editor.setLanguage(QStringLiteral("XML"));
+    ASSERT_NE(editor.lexer(), nullptr);
+    EXPECT_STREQ(editor.lexer()->language(), "XML");
+    editor.setLanguage(QStringLiteral("SQL"));
+    ASSERT_NE(editor.lexer(), nullptr);
+    EXPECT_STREQ(editor.lexer()->language(), "SQL");
+}
+
+TEST_F(CodeMaxTest, ChangingTheLanguageKeepsTheText)
+{
+    editor.setText(QStringLiteral("<html>\r\n</html>"));
+    QSignalSpy changed(&editor, &CodeMax::Change);
+    editor.setLanguage(QStringLiteral("HTML"));
+    editor.setLanguage(QStringLiteral("nonsense"));
+    EXPECT_EQ(editor.text(), QStringLiteral("<html>\r\n</html>"));
+    EXPECT_EQ(changed.count(), 0) << "colouring is not a change of the text";
+}
+
+// ---- Change, length and lines --------------------------------------------------------------
+
+TEST_F(CodeMaxTest, ChangeFiresOnEveryTextChangeAlsoByCode)
+{
+    QSignalSpy changed(&editor, &CodeMax::Change);
+    editor.setText(QStringLiteral("assigned"));
+    EXPECT_GE(changed.count(), 1) << "assigning the text is a change";
+
+    changed.clear();
+    editor.setSelText(QStringLiteral("!"));
+    EXPECT_GE(changed.count(), 1);
+
+    changed.clear();
+    type(QStringLiteral("k"));
+    EXPECT_GE(changed.count(), 1);
+
+    changed.clear();
+    editor.ExecuteCmd(137);
+    editor.ExecuteCmd(125);
+    EXPECT_GE(changed.count(), 1);
+
+    // Moving the caret is not a change.
+    editor.setText(QStringLiteral("a\r\nb"));
+    changed.clear();
+    editor.setCursorPosition(0, 0);
+    editor.ExecuteCmd(201);
+    editor.ExecuteCmd(157);
+    editor.ExecuteCmd(149);
+    editor.ExecuteCmd(137);
+    EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(CodeMaxTest, TextLengthCountsCharacters)
+{
+    editor.setText(QStringLiteral("a\u00E9\u20AC\r\n"));
+    EXPECT_EQ(editor.TextLength(), 5) << "a, e acute, euro, CR, LF";
+    editor.setText(QStringLiteral("plain"));
+    EXPECT_EQ(editor.TextLength(), 5);
+    editor.setText(QString());
+    EXPECT_EQ(editor.TextLength(), 0);
+}
+
+TEST_F(CodeMaxTest, LineCount)
+{
+    struct Case { const char* text; int lines; };
+    for (const Case& c : {Case{"", 1}, Case{"a", 1}, Case{"a\r\nb", 2}, Case{"a\r\n", 2},
+                          Case{"a\r\nb\r\nc", 3}, Case{"\r\n\r\n", 3}}) {
+        editor.setText(QString::fromLatin1(c.text));
+        EXPECT_EQ(editor.LineCount(), c.lines) << visible(QString::fromLatin1(c.text));
+    }
+}
+
+TEST_F(CodeMaxTest, EnterStartsAWindowsLine)
+{
+    editor.setText(QStringLiteral("ab"));
+    setCaret(1);
+    editor.SendScintilla(Sci::SCI_NEWLINE);
+    EXPECT_EQ(editor.text(), QStringLiteral("a\r\nb"));
+}
+
+TEST_F(CodeMaxTest, DeleteSelRemovesOnlyTheSelection)
+{
+    editor.setText(QStringLiteral("keep drop keep"));
+    select(4, 9);
+    editor.DeleteSel();
+    EXPECT_EQ(editor.text(), QStringLiteral("keep keep"));
+    editor.DeleteSel();
+    EXPECT_EQ(editor.text(), QStringLiteral("keep keep")) << "nothing selected, nothing removed";
+}
