@@ -10,12 +10,14 @@
 #include "shell/Options.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
+#include "shell/frmSplash.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTest>
 
 #include "shell/ColourSwatch.h"
 
@@ -249,3 +251,19 @@ INSTANTIATE_TEST_SUITE_P(
                       std::make_pair("colour_not_a_number", QByteArray("0\r\n1\r\n1\r\n1\r\nx\r\nx\r\nx\r\nx\r\nred\r\n").append(QByteArray("x\r\n").repeated(20))),
                       std::make_pair("check_value_out_of_range", QByteArray("7\r\n").append(QByteArray("1\r\n").repeated(28)))),
     [](const auto& info) { return std::string(info.param.first); });
+
+TEST_F(StartupTest, SplashShowsTheVersionAndGoesOnAKeyOrAClick)
+{
+    Forms::registerFactory(QStringLiteral("frmSplash"), [] { return new frmSplash; });
+    auto* splash = static_cast<frmSplash*>(Forms::get(QStringLiteral("frmSplash")));
+    EXPECT_EQ(splash->lblVersion->text(), QStringLiteral("Version 1.0.0"));
+    EXPECT_EQ(splash->lblProductName->text(), QStringLiteral("Velloro 2002"));
+    saveShot(splash, QStringLiteral("splash"));
+    QTest::keyClick(splash, Qt::Key_Space);
+    EXPECT_EQ(Forms::find(QStringLiteral("frmSplash")), nullptr);
+
+    splash = static_cast<frmSplash*>(Forms::get(QStringLiteral("frmSplash")));
+    splash->show();
+    QTest::mouseClick(splash, Qt::LeftButton);
+    EXPECT_EQ(Forms::find(QStringLiteral("frmSplash")), nullptr);
+}
