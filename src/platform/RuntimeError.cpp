@@ -15,7 +15,8 @@ RuntimeError RuntimeError::objectRequired(const QString& src) { return {424, QSt
 RuntimeError RuntimeError::invalidProperty(const QString& src) { return {380, QStringLiteral("Invalid property value"), src}; }
 RuntimeError RuntimeError::noSuchMember(const QString& member, const QString& src)
 {
-    return {438, QStringLiteral("Object doesn't support this property or method (%1)").arg(member), src};
+    return {438, QStringLiteral("Object doesn't support this property or method"),
+            src.isEmpty() ? member : src + QLatin1Char('.') + member};
 }
 
 QString runtimeErrorText(const RuntimeError& e)

@@ -13,16 +13,37 @@ constexpr char16_t cp1252High[32] = {
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-QString decodeCp1252(const QByteArray& bytes)
+QChar cp1252(unsigned char b) { return (b >= 0x80 && b < 0xA0) ? QChar(cp1252High[b - 0x80]) : QChar(b); }
+
+// The length of the well-formed UTF-8 sequence at p (1 to 4), or 0 when the bytes there are
+// not one (overlong forms, surrogates and values past U+10FFFF included).
+int utf8Sequence(const unsigned char* p, qsizetype left)
 {
-    QString out;
-    out.resize(bytes.size());
-    QChar* d = out.data();
-    for (qsizetype i = 0; i < bytes.size(); ++i) {
-        const auto b = static_cast<unsigned char>(bytes[i]);
-        d[i] = (b >= 0x80 && b < 0xA0) ? QChar(cp1252High[b - 0x80]) : QChar(b);
+    const unsigned char b = p[0];
+    auto cont = [&](int i) { return i < left && (p[i] & 0xC0) == 0x80; };
+    if (b < 0x80)
+        return 1;
+    if (b >= 0xC2 && b <= 0xDF)
+        return cont(1) ? 2 : 0;
+    if (b >= 0xE0 && b <= 0xEF) {
+        if (!cont(1) || !cont(2))
+            return 0;
+        if (b == 0xE0 && p[1] < 0xA0)
+            return 0;
+        if (b == 0xED && p[1] >= 0xA0)
+            return 0;
+        return 3;
     }
-    return out;
+    if (b >= 0xF0 && b <= 0xF4) {
+        if (!cont(1) || !cont(2) || !cont(3))
+            return 0;
+        if (b == 0xF0 && p[1] < 0x90)
+            return 0;
+        if (b == 0xF4 && p[1] >= 0x90)
+            return 0;
+        return 4;
+    }
+    return 0;
 }
 }
 
@@ -34,7 +55,22 @@ QString decode(const QByteArray& bytes)
     QString s = utf8.decode(bytes);
     if (!utf8.hasError())
         return s;
-    return decodeCp1252(bytes);
+    // Mixed text: each well-formed sequence as UTF-8, each byte that is not one as Windows-1252.
+    QString out;
+    out.reserve(bytes.size());
+    const auto* p = reinterpret_cast<const unsigned char*>(bytes.constData());
+    const qsizetype n = bytes.size();
+    for (qsizetype i = 0; i < n;) {
+        const int len = utf8Sequence(p + i, n - i);
+        if (len == 0) {
+            out += cp1252(p[i]);
+            ++i;
+        } else {
+            out += QString::fromUtf8(reinterpret_cast<const char*>(p + i), len);
+            i += len;
+        }
+    }
+    return out;
 }
 
 QByteArray encode(const QString& text) { return text.toUtf8(); }

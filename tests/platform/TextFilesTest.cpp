@@ -1,0 +1,163 @@
+// Text files: decoding, atomic replacement, creation of missing files.
+#include "common/QtPrinters.h"
+#include "platform/TextFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+QByteArray fileBytes(const QString& path)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly))
+        return QByteArray("<unreadable>");
+    return f.readAll();
+}
+
+void putFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    ASSERT_EQ(f.write(bytes), bytes.size());
+}
+
+QStringList entries(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+}
+
+// --- Decoding --------------------------------------------------------------------------------
+
+TEST(TextFilesDecode, Utf8)
+{
+    EXPECT_EQ(TextFiles::decode(QByteArray("caf\xC3\xA9 \xE2\x82\xAC\r\n")), QStringLiteral(u"café €\r\n"));
+    EXPECT_EQ(TextFiles::decode(QByteArray("plain ascii")), QStringLiteral("plain ascii"));
+    EXPECT_EQ(TextFiles::decode(QByteArray()), QString());
+}
+
+TEST(TextFilesDecode, InvalidUtf8FallsBackToWindows1252)
+{
+    EXPECT_EQ(TextFiles::decode(QByteArray("\x80")), QStringLiteral(u"\u20AC"));
+    EXPECT_EQ(TextFiles::decode(QByteArray("caf\xE9")), QStringLiteral(u"café"));
+    EXPECT_EQ(TextFiles::decode(QByteArray("\x93quoted\x94 \x85 \x99")), QStringLiteral(u"\u201Cquoted\u201D \u2026 \u2122"));
+    EXPECT_EQ(TextFiles::decode(QByteArray("\xA0\xFF")), QStringLiteral(u"\u00A0\u00FF"));
+}
+
+TEST(TextFilesDecode, MixedFilesKeepTheirValidUtf8)
+{
+    // A valid é, a stray Windows-1252 euro sign and a lone Latin é in one file.
+    EXPECT_EQ(TextFiles::decode(QByteArray("caf\xc3\xa9 \x80 \xe9")), QStringLiteral("caf\u00e9 \u20ac \u00e9"));
+    // A sequence cut short by the end of the file, and an overlong form, are single bytes.
+    EXPECT_EQ(TextFiles::decode(QByteArray("\xe2\x82")), QStringLiteral("\u00e2\u201a"));
+    EXPECT_EQ(TextFiles::decode(QByteArray("\xc0\xaf")), QStringLiteral("\u00c0\u00af"));
+    // Four-byte sequences stay whole.
+    EXPECT_EQ(TextFiles::decode(QByteArray("\xf0\x9f\x98\x80\x9f")), QStringLiteral("\U0001F600\u0178"));
+}
+
+TEST(TextFilesDecode, EncodeIsUtf8AndRoundTrips)
+{
+    const QString text = QStringLiteral(u"<p>é € \u4E2D</p>\r\n");
+    EXPECT_EQ(TextFiles::encode(text), QByteArray("<p>\xC3\xA9 \xE2\x82\xAC \xE4\xB8\xAD</p>\r\n"));
+    EXPECT_EQ(TextFiles::decode(TextFiles::encode(text)), text);
+}
+
+// --- Writing ---------------------------------------------------------------------------------
+
+TEST(TextFilesWrite, ReplacesTheWholeFileAndLeavesNoScratchFile)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("page.htm"));
+    putFile(path, QByteArray("a much longer old content that must vanish entirely"));
+
+    QString error;
+    EXPECT_TRUE(TextFiles::writeBytes(path, QByteArray("new"), &error)) << error.toStdString();
+    EXPECT_EQ(fileBytes(path), QByteArray("new"));
+    EXPECT_EQ(entries(dir.path()), QStringList{QStringLiteral("page.htm")});
+
+    EXPECT_TRUE(TextFiles::writeText(path, QStringLiteral(u"é\r\n")));
+    EXPECT_EQ(fileBytes(path), QByteArray("\xC3\xA9\r\n"));
+
+    EXPECT_TRUE(TextFiles::writeBytes(path, QByteArray()));
+    EXPECT_EQ(fileBytes(path), QByteArray());
+    EXPECT_TRUE(TextFiles::exists(path));
+}
+
+TEST(TextFilesWrite, MissingFolderFailsAndLeavesNothing)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("no/such/folder/page.htm"));
+    QString error;
+    EXPECT_FALSE(TextFiles::writeBytes(path, QByteArray("x"), &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_FALSE(TextFiles::exists(path));
+    EXPECT_TRUE(entries(dir.path()).isEmpty()) << entries(dir.path()).join(QLatin1Char(' ')).toStdString();
+}
+
+TEST(TextFilesWrite, FolderInTheWayFailsAndIsLeftAlone)
+{
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("page.htm"));
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("page.htm")));
+    putFile(path + QStringLiteral("/inside.txt"), QByteArray("keep"));
+
+    EXPECT_FALSE(TextFiles::writeBytes(path, QByteArray("x")));
+    EXPECT_EQ(fileBytes(path + QStringLiteral("/inside.txt")), QByteArray("keep"));
+    EXPECT_EQ(entries(dir.path()), QStringList{QStringLiteral("page.htm")});
+}
+
+// --- Reading and creating --------------------------------------------------------------------
+
+TEST(TextFilesRead, MissingFileGivesNothingAndNotOk)
+{
+    QTemporaryDir dir;
+    bool ok = true;
+    EXPECT_EQ(TextFiles::readBytes(dir.filePath(QStringLiteral("none.dat")), &ok), QByteArray());
+    EXPECT_FALSE(ok);
+    ok = true;
+    EXPECT_EQ(TextFiles::readText(dir.filePath(QStringLiteral("none.dat")), &ok), QString());
+    EXPECT_FALSE(ok);
+}
+
+TEST(TextFilesRead, ReadsWhatWasWritten)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("Details.dat"));
+    putFile(path, QByteArray("\"Maximised\"\r\n\xE9\r\n"));
+    bool ok = false;
+    EXPECT_EQ(TextFiles::readText(path, &ok), QStringLiteral(u"\"Maximised\"\r\né\r\n"));
+    EXPECT_TRUE(ok);
+}
+
+TEST(TextFilesCreate, CreatesAnEmptyFileAndItsFolders)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("Options/FTP/Main.DAT"));
+    EXPECT_FALSE(TextFiles::exists(path));
+    EXPECT_TRUE(TextFiles::createIfMissing(path));
+    EXPECT_TRUE(TextFiles::exists(path));
+    EXPECT_EQ(fileBytes(path), QByteArray());
+}
+
+TEST(TextFilesCreate, ExistingFileIsLeftUntouched)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("Details.dat"));
+    putFile(path, QByteArray("0\r\n1\r\n"));
+    EXPECT_TRUE(TextFiles::createIfMissing(path));
+    EXPECT_EQ(fileBytes(path), QByteArray("0\r\n1\r\n"));
+}
+
+TEST(TextFilesCreate, FolderOfThatNameIsNotAFile)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("Notes"));
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("Notes")));
+    EXPECT_FALSE(TextFiles::exists(path));
+    EXPECT_FALSE(TextFiles::createIfMissing(path));
+}
