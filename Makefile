@@ -36,7 +36,7 @@ fuzz: deps
 	CC=clang CXX=clang++ cmake -S . -B build-fuzz -G $(GENERATOR) -DVELLORO_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo
 	cmake --build build-fuzz -j$(JOBS)
 	@for h in build-fuzz/fuzz/fuzz_*; do \
-	  [ -x "$$h" ] || continue; name=$$(basename $$h); mkdir -p build-fuzz/corpus/$$name; \
+	  [ -f "$$h" ] && [ -x "$$h" ] || continue; name=$$(basename $$h); mkdir -p build-fuzz/corpus/$$name; \
 	  echo "== $$name (60 s)"; \
 	  $$h -max_total_time=60 -print_final_stats=1 build-fuzz/corpus/$$name fuzz/corpus/$$name || exit 1; \
 	done

@@ -14,7 +14,6 @@ public:
         return ++value;
     }
     int current() const { return value; }
-    void setForTesting(int v) { value = v; }
 
 private:
     int value = 0;
