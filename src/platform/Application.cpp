@@ -1,6 +1,7 @@
 #include "platform/Application.h"
 
 #include "platform/App.h"
+#include "platform/EventProcedure.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 
@@ -22,7 +23,7 @@ bool VelloroApplication::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError& e) {
-        MsgBox(runtimeErrorText(e), 16, App::title());
+        ReportRunTimeError(e);
     } catch (const std::exception& e) {
         MsgBox(QStringLiteral("Run-time error '51':\n\nInternal error (%1)").arg(QString::fromLocal8Bit(e.what())),
                16, App::title());

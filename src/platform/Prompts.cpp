@@ -1,6 +1,7 @@
 #include "platform/Prompts.h"
 
 #include "platform/App.h"
+#include "platform/EventProcedure.h"
 #include "platform/RuntimeError.h"
 
 #include <QApplication>
@@ -26,6 +27,11 @@ PromptHandler& prompts()
 }
 
 void setPromptHandler(PromptHandler* handler) { installed = handler; }
+
+void ReportRunTimeError(const RuntimeError& e)
+{
+    MsgBox(runtimeErrorText(e), 16, App::title());
+}
 
 int MsgBox(const QString& text, int style, const QString& title)
 {

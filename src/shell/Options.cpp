@@ -2,6 +2,7 @@
 
 #include "platform/App.h"
 #include "platform/CheckValue.h"
+#include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
@@ -114,12 +115,12 @@ void Options::buildPages()
         row->addWidget(Command3);
         row->addStretch();
         static_cast<QVBoxLayout*>(frftp->layout())->addLayout(row);
-        connect(SmartNetButton2, &QPushButton::clicked, this, [this] {
+        connect(SmartNetButton2, &QPushButton::clicked, this, Event([this] {
             ftpadd->clear();
             ftpuser->clear();
             ftppass->clear();
-        });
-        connect(Command3, &QPushButton::clicked, this, [] { showForm(QStringLiteral("ftpUsers")); });
+        }));
+        connect(Command3, &QPushButton::clicked, this, Event([] { showForm(QStringLiteral("ftpUsers")); }));
     }
 
     // Colour
@@ -146,7 +147,7 @@ void Options::buildPages()
         static_cast<QVBoxLayout*>(frcolour->layout())->addLayout(grid);
         Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Colour Lab"), frcolour);
         frcolour->layout()->addWidget(Command1);
-        connect(Command1, &QPushButton::clicked, this, [] { showForm(QStringLiteral("cfinderform")); });
+        connect(Command1, &QPushButton::clicked, this, Event([] { showForm(QStringLiteral("cfinderform")); }));
     }
 
     // Headings
@@ -182,7 +183,7 @@ void Options::buildPages()
         row->addWidget(Combo3);
         row->addWidget(Command6);
         static_cast<QVBoxLayout*>(frheading->layout())->addLayout(row);
-        connect(Command6, &QPushButton::clicked, this, &Options::changeHeading);
+        connect(Command6, &QPushButton::clicked, this, Event([this] { changeHeading(); }));
     }
 
     // Tags
@@ -203,7 +204,7 @@ void Options::buildPages()
         row->addWidget(Shape3);
         row->addWidget(tagc);
         static_cast<QVBoxLayout*>(frtag->layout())->addLayout(row);
-        connect(Command2, &QPushButton::clicked, this, &Options::chooseTagColour);
+        connect(Command2, &QPushButton::clicked, this, Event([this] { chooseTagColour(); }));
     }
 
     // File extensions
@@ -237,8 +238,8 @@ void Options::buildPages()
     buttons->addWidget(SmartNetButton1);
     outer->addLayout(buttons);
     connect(SmartNetButton1, &QPushButton::clicked, this, &QWidget::hide);
-    connect(SmartNetButton3, &QPushButton::clicked, this, &Options::ApplyDetails);
-    connect(Tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { nodeClicked(item); });
+    connect(SmartNetButton3, &QPushButton::clicked, this, Event([this] { ApplyDetails(); }));
+    connect(Tree, &QTreeWidget::itemClicked, this, Event([this](QTreeWidgetItem* item) { nodeClicked(item); }));
 
     // The controls' design values; the file's values replace them at start-up.
     setValues(DetailsFile::designValues());

@@ -2,6 +2,7 @@
 
 #include "documents/PageGenerator.h"
 #include "platform/CheckValue.h"
+#include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "shell/ColourSwatch.h"
@@ -91,7 +92,7 @@ void Startup::buildTaskList()
     Check1->setChecked(true);
     v->addWidget(Check1);
     // The click handler runs on every change of the value, by the user or by code.
-    connect(Check1, &QCheckBox::stateChanged, this, &Startup::Check1_Click);
+    connect(Check1, &QCheckBox::stateChanged, this, Event([this] { Check1_Click(); }));
 }
 
 void Startup::buildSinglePage()
@@ -152,22 +153,22 @@ void Startup::buildSinglePage()
     nav->addWidget(Command1);
     v->addLayout(nav);
 
-    connect(Command3, &QPushButton::clicked, this, [this] { chooseColourInto(Text3, Shape3, true); });
-    connect(Command4, &QPushButton::clicked, this, [this] { chooseColourInto(Text4, Shape4, true); });
-    connect(Command5, &QPushButton::clicked, this, [this] {
+    connect(Command3, &QPushButton::clicked, this, Event([this] { chooseColourInto(Text3, Shape3, true); }));
+    connect(Command4, &QPushButton::clicked, this, Event([this] { chooseColourInto(Text4, Shape4, true); }));
+    connect(Command5, &QPushButton::clicked, this, Event([this] {
         const QString file = prompts().openFile(QString(), QStringLiteral("Music (*.wav *.mp3)"), QString());
         if (!file.isEmpty())
             mlocation->setText(file);
-    });
+    }));
     // Any click disables the loop count, and nothing enables it again.
-    connect(Check2, &QCheckBox::clicked, this, [this] { mloop->setEnabled(false); });
-    connect(Command1, &QPushButton::clicked, this, [this] {
+    connect(Check2, &QCheckBox::clicked, this, Event([this] { mloop->setEnabled(false); }));
+    connect(Command1, &QPushButton::clicked, this, Event([this] {
         if (checkValue(CSS) != 0)
             showFrame(CSSFrame);
         else
             PrepareSoundTag();
-    });
-    connect(Command2, &QPushButton::clicked, this, [this] { showFrame(frstartup); });
+    }));
+    connect(Command2, &QPushButton::clicked, this, Event([this] { showFrame(frstartup); }));
 }
 
 void Startup::buildStylePage()
@@ -195,7 +196,7 @@ void Startup::buildStylePage()
         grid->addWidget(*row.combo, r, 4);
         QLineEdit* text = *row.text;
         ColourSwatch* swatch = *row.swatch;
-        connect(*row.button, &QPushButton::clicked, this, [text, swatch] { chooseColourInto(text, swatch, true); });
+        connect(*row.button, &QPushButton::clicked, this, Event([text, swatch] { chooseColourInto(text, swatch, true); }));
         ++r;
     }
     auto* v = static_cast<QVBoxLayout*>(CSSFrame->layout());
@@ -208,8 +209,8 @@ void Startup::buildStylePage()
     nav->addWidget(Command13);
     nav->addWidget(Command12);
     v->addLayout(nav);
-    connect(Command12, &QPushButton::clicked, this, [] { PrepareSoundTag(); });
-    connect(Command13, &QPushButton::clicked, this, [this] { showFrame(frsingle); });
+    connect(Command12, &QPushButton::clicked, this, Event([] { PrepareSoundTag(); }));
+    connect(Command13, &QPushButton::clicked, this, Event([this] { showFrame(frsingle); }));
 }
 
 void Startup::buildFramePage()
@@ -245,8 +246,8 @@ void Startup::buildFramePage()
     nav->addWidget(Command16);
     nav->addWidget(Command11);
     v->addLayout(nav);
-    connect(Command14, &QPushButton::clicked, this, [this] { chooseColourInto(Text5, Shape5, true); });
-    connect(Command16, &QPushButton::clicked, this, [this] { showFrame(frstartup); });
+    connect(Command14, &QPushButton::clicked, this, Event([this] { chooseColourInto(Text5, Shape5, true); }));
+    connect(Command16, &QPushButton::clicked, this, Event([this] { showFrame(frstartup); }));
     connect(Command11, &QPushButton::clicked, this, &QWidget::hide);
 }
 

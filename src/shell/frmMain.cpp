@@ -3,6 +3,7 @@
 #include "documents/DocumentWindow.h"
 #include "platform/App.h"
 #include "platform/CheckValue.h"
+#include "platform/EventProcedure.h"
 #include "platform/Twips.h"
 #include "shell/AboutFORM.h"
 #include "shell/Main.h"
@@ -138,14 +139,14 @@ void frmMain::buildLayout()
     foldSide(false);
     foldRight(false);
 
-    connect(LeftMenuIn, &QToolButton::clicked, this, &frmMain::LeftMenuIn_Click);
-    connect(RightMenuIn, &QToolButton::clicked, this, &frmMain::RightMenuIn_Click);
-    connect(SmartNetButton75, &QToolButton::clicked, this, [this] {
+    connect(LeftMenuIn, &QToolButton::clicked, this, Event([this] { LeftMenuIn_Click(); }));
+    connect(RightMenuIn, &QToolButton::clicked, this, Event([this] { RightMenuIn_Click(); }));
+    connect(SmartNetButton75, &QToolButton::clicked, this, Event([this] {
         Options* options = form<Options>();
         setCheckValue(options->ToolTip, 0);
         options->ApplyDetails();
         Tooltipframe->hide();
-    });
+    }));
     connect(MDIClient, &QMdiArea::subWindowActivated, this, &frmMain::subWindowActivated);
 }
 

@@ -3,6 +3,7 @@
 #include "common/TestSupport.h"
 
 #include "platform/Prompts.h"
+#include "platform/EventProcedure.h"
 #include "platform/RuntimeError.h"
 #include "platform/ScriptedPrompts.h"
 
@@ -257,14 +258,14 @@ TEST_F(PromptsTest, NetCatchesFailuresInQueuedEventsAndTheLoopKeepsRunning)
 
 TEST_F(PromptsTest, NetCatchesAFailingClickHandler)
 {
-    // A user's click on a button whose handler is unguarded.
+    // A user's click on a button whose event procedure fails unguarded.
     QPushButton button(QStringLiteral("Go"));
     button.setObjectName(QStringLiteral("Command1"));
     int clicks = 0;
-    QObject::connect(&button, &QPushButton::clicked, [&clicks] {
+    QObject::connect(&button, &QPushButton::clicked, Event([&clicks] {
         ++clicks;
         throw RuntimeError(13, QStringLiteral("Type mismatch"));
-    });
+    }));
     button.resize(80, 24);
     button.show();
 

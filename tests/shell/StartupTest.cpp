@@ -226,11 +226,32 @@ TEST_F(StartupTest, ShutDownWalksPastUnchangedPagesWithoutAsking)
 }
 
 // Settings files of any bytes: the program starts, says what failed, and leaves the file alone.
-class DamagedSettingsTest : public WindowTest, public ::testing::WithParamInterface<std::pair<const char*, QByteArray>> {};
+namespace {
+QByteArray damagedFile(const std::string& kind)
+{
+    if (kind == "empty")
+        return {};
+    if (kind == "binary")
+        return QByteArray("\x00\x01\xff\xfe\x80\r\n\x00", 8).repeated(50);
+    if (kind == "one_huge_line")
+        return QByteArray(8 * 1024 * 1024, '7');
+    if (kind == "missing_lines")
+        return "0\r\n1\r\n1\r\n1\r\n\"Maximized\"\r\n";
+    if (kind == "stray_quote")
+        return QByteArray("0\r\n1\r\n1\r\n1\r\n\"Maximized\r\n\"c:\\\"\r\n1\r\n").repeated(3);
+    if (kind == "colour_not_a_number")
+        return QByteArray("0\r\n1\r\n1\r\n1\r\nx\r\nx\r\nx\r\nx\r\nred\r\n").append(QByteArray("x\r\n").repeated(20));
+    if (kind == "check_value_out_of_range")
+        return QByteArray("7\r\n").append(QByteArray("1\r\n").repeated(28));
+    return {};
+}
+
+class DamagedSettingsTest : public WindowTest, public ::testing::WithParamInterface<std::string> {};
+}
 
 TEST_P(DamagedSettingsTest, StartsAndSaysWhatFailed)
 {
-    const QByteArray bytes = GetParam().second;
+    const QByteArray bytes = damagedFile(GetParam());
     folder.write(QStringLiteral("Options/Details.dat"), bytes);
     Main();
     frmMain* main = frmMain::loaded();
@@ -241,17 +262,10 @@ TEST_P(DamagedSettingsTest, StartsAndSaysWhatFailed)
     EXPECT_TRUE(prompts.prompts().isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, DamagedSettingsTest,
-    ::testing::Values(std::make_pair("empty", QByteArray()),
-                      std::make_pair("binary", QByteArray("\x00\x01\xff\xfe\x80\r\n\x00", 8).repeated(50)),
-                      std::make_pair("one_huge_line", QByteArray(8 * 1024 * 1024, '7')),
-                      std::make_pair("missing_lines", QByteArray("0\r\n1\r\n1\r\n1\r\n\"Maximized\"\r\n")),
-                      std::make_pair("stray_quote", QByteArray("0\r\n1\r\n1\r\n1\r\n\"Maximized\r\n\"c:\\\"\r\n1\r\n").repeated(3)),
-                      std::make_pair("colour_not_a_number", QByteArray("0\r\n1\r\n1\r\n1\r\nx\r\nx\r\nx\r\nx\r\nred\r\n").append(QByteArray("x\r\n").repeated(20))),
-                      std::make_pair("check_value_out_of_range", QByteArray("7\r\n").append(QByteArray("1\r\n").repeated(28)))),
-    [](const auto& info) { return std::string(info.param.first); });
-
+INSTANTIATE_TEST_SUITE_P(Files, DamagedSettingsTest,
+                         ::testing::Values("empty", "binary", "one_huge_line", "missing_lines", "stray_quote",
+                                           "colour_not_a_number", "check_value_out_of_range"),
+                         [](const auto& info) { return info.param; });
 TEST_F(StartupTest, SplashShowsTheVersionAndGoesOnAKeyOrAClick)
 {
     Forms::registerFactory(QStringLiteral("frmSplash"), [] { return new frmSplash; });
