@@ -29,7 +29,7 @@ CodeMax* DocumentWindow::CodeMax1() { lacks("CodeMax1"); }
 RichTextBox* DocumentWindow::RichTextBox1() { lacks("RichTextBox1"); }
 QLabel* DocumentWindow::Changedvalue() { lacks("Changedvalue"); }
 QComboBox* DocumentWindow::SYNTAXTYPE() { lacks("SYNTAXTYPE"); }
-QLineEdit* DocumentWindow::tempbox() { lacks("tempbox"); }
+QPlainTextEdit* DocumentWindow::tempbox() { lacks("tempbox"); }
 WebBrowser* DocumentWindow::WebBrowser1() { lacks("WebBrowser1"); }
 QLabel* DocumentWindow::linkpreview() { lacks("linkpreview"); }
 void DocumentWindow::startspell() { lacks("startspell"); }

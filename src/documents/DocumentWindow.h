@@ -8,6 +8,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QMdiSubWindow;
+class QPlainTextEdit;
 class RichTextBox;
 class WebBrowser;
 
@@ -26,7 +27,7 @@ public:
     QLineEdit* tempaddress() const { return tempaddressBox; }
     virtual QLabel* Changedvalue();
     virtual QComboBox* SYNTAXTYPE();
-    virtual QLineEdit* tempbox();
+    virtual QPlainTextEdit* tempbox();
     virtual WebBrowser* WebBrowser1();
     virtual QLabel* linkpreview();
     virtual void startspell();

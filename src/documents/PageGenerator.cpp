@@ -2,6 +2,7 @@
 
 #include "documents/PageText.h"
 #include "documents/frmDocument.h"
+#include "documents/frmsplit.h"
 #include "platform/CheckValue.h"
 #include "platform/CodeMax.h"
 #include "platform/WindowCounter.h"
@@ -15,10 +16,11 @@ namespace {
 // The generator's own counters: generated page, start-up page, split page.
 WindowCounter generatedPages, startupPages, splitPages;
 
-frmDocument* newPageWindow(WindowCounter& counter)
+template <class Window>
+Window* newPageWindow(WindowCounter& counter)
 {
     const int n = counter.next();
-    auto* doc = new frmDocument;
+    auto* doc = new Window;
     doc->setCaption(QStringLiteral("Document ") + QString::number(n));
     frmMain::instance()->addDocument(doc);
     return doc;
@@ -65,7 +67,7 @@ void PrepareSoundTag()
 
 void GenerateWebPage()
 {
-    frmDocument* doc = newPageWindow(generatedPages);
+    auto* doc = newPageWindow<frmDocument>(generatedPages);
     const PageText::Fields fields = startupFields();
     const bool styled = checkValue(form<Startup>()->CSS) != 0;
     doc->CodeMax1()->setText(styled ? PageText::styledPage(fields) : PageText::plainPage(fields));
@@ -76,9 +78,7 @@ void GenerateWebPage()
 
 void GenerateSplitPage()
 {
-    // The split view window joins with the documents' own windows; until then the split page
-    // opens in a web page window, with the split generator's own counter and steps.
-    frmDocument* doc = newPageWindow(splitPages);
+    auto* doc = newPageWindow<frmsplit>(splitPages);
     const PageText::Fields fields = startupFields();
     doc->CodeMax1()->setText(PageText::plainPage(fields));
     finishGeneratedPage(doc, fields.title);
@@ -86,7 +86,7 @@ void GenerateSplitPage()
 
 void CreateStartupPage()
 {
-    frmDocument* doc = newPageWindow(startupPages);
+    auto* doc = newPageWindow<frmDocument>(startupPages);
     doc->CodeMax1()->setText(PageText::startupPage());
     frmMain* main = frmMain::instance();
     if (DocumentWindow* active = main->ActiveForm())

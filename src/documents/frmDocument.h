@@ -1,38 +1,27 @@
 #pragma once
-#include "documents/DocumentWindow.h"
+#include "documents/CodeDocumentWindow.h"
 
 class QTabWidget;
 
-// The web page window: the code editor on one tab, the browser preview on the other, and a
-// hidden rich text copy for printing and file transfers.
-class frmDocument : public DocumentWindow {
+// The web page window: the code editor on one tab, the browser preview on the other.
+class frmDocument : public CodeDocumentWindow {
     Q_OBJECT
 public:
     explicit frmDocument(QWidget* parent = nullptr);
 
-    CodeMax* CodeMax1() override { return editor; }
-    RichTextBox* RichTextBox1() override { return workCopy; }
-    QLabel* Changedvalue() override { return changed; }
     QComboBox* SYNTAXTYPE() override { return syntax; }
-    WebBrowser* WebBrowser1() override;
-    QLabel* linkpreview() override { return linkLabel; }
-
     void Form_Activate() override;
+    // Writes the preview file and shows it; runs on the refresh button and every tab change.
+    void RefreshPreview();
 
     QTabWidget* SSTab1 = nullptr;
     QLabel* Label1 = nullptr;
 
 protected:
     QString previewSuffix() const override { return QStringLiteral("_TMP.htm"); }
+    void refreshPreview() override { RefreshPreview(); }
 
 private:
     void editorChanged();
-    void showTextStatus();
-
-    CodeMax* editor = nullptr;
-    RichTextBox* workCopy = nullptr;
-    QLabel* changed = nullptr;
     QComboBox* syntax = nullptr;
-    WebBrowser* browser = nullptr;
-    QLabel* linkLabel = nullptr;
 };

@@ -29,3 +29,15 @@ QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent
 }
 
 }
+
+#include "platform/App.h"
+
+#include <QFileInfo>
+
+namespace Look {
+QIcon menuIcon(const QString& name)
+{
+    const QString path = App::path() + QStringLiteral("/Options/Images/") + name + QStringLiteral(".ico");
+    return QFileInfo::exists(path) ? QIcon(path) : QIcon();
+}
+}

@@ -1,5 +1,6 @@
 #pragma once
 #include <QColor>
+#include <QIcon>
 #include <QString>
 
 class QFrame;
@@ -26,4 +27,10 @@ W* named(W* w, const QString& name)
 QPushButton* faceButton(const QString& name, const QString& caption, QWidget* parent);
 // A frame (one page of a window) with a heading bar; the heading label is handed out on request.
 QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr);
+}
+
+namespace Look {
+// A menu or button picture by name from the application folder's Options/Images; an empty
+// icon when the file is not there.
+QIcon menuIcon(const QString& name);
 }

@@ -1,6 +1,7 @@
 #include "shell/Main.h"
 
 #include "documents/DocumentWindow.h"
+#include "documents/OpenSave.h"
 #include "documents/PageGenerator.h"
 #include "platform/CheckValue.h"
 #include "platform/Forms.h"
@@ -96,6 +97,8 @@ void Main()
 {
     registerShellForms();
     registerShellCommands();
+    registerDocumentForms();
+    registerDocumentCommands();
 
     try {
         auto* splash = form<frmSplash>();

@@ -211,6 +211,8 @@ void frmMain::registerCommand(const QString& key, Command command)
     commands().insert(key, std::move(command));
 }
 
+bool frmMain::hasCommand(const QString& key) { return commands().contains(key); }
+
 void frmMain::MenuClick(const QString& key)
 {
     const Command c = commands().value(key);

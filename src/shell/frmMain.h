@@ -39,6 +39,7 @@ public:
     void MenuClick(const QString& key);
     using Command = std::function<void()>;
     static void registerCommand(const QString& key, Command command);
+    static bool hasCommand(const QString& key);
 
     // Status bar panels 1 (messages), 2 ("Lines: "), 3 ("Chr: ").
     void setStatusText(int panel, const QString& text);

@@ -1,0 +1,310 @@
+#include "documents/CodeDocumentWindow.h"
+
+#include "documents/Insertion.h"
+#include "platform/App.h"
+#include "platform/CodeMax.h"
+#include "platform/EventProcedure.h"
+#include "platform/Look.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
+#include "platform/WebBrowser.h"
+#include "shell/Main.h"
+#include "shell/frmMain.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDesktopServices>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
+#include <QToolButton>
+#include <QUrl>
+
+namespace {
+constexpr int heading = 52 | (129 << 8) | (211 << 16);  // RGB 52, 129, 211 as a platform value
+
+struct MenuItem {
+    const char* parent;  // "" for the root menu
+    const char* key;
+    const char* caption;
+    const char* icon;
+    bool enabled;
+};
+
+// The context menu, in order.
+const MenuItem contextItems[] = {
+    {"", "Page Properties", "Page Properties", "", true},
+    {"", "Editor Properties", "Editor Properties", "", true},
+    {"", "Format Text", "Format Text", "", true},
+    {"", "Undo", "Undo", "Undo", true},
+    {"", "Redo", "Redo", "Redo", true},
+    {"", "SelectAll", "Select All", "", true},
+    {"", "Cut", "Cut", "Cut", true},
+    {"", "Copy", "Copy", "Copy", true},
+    {"", "Paste", "Paste", "Paste", true},
+    {"", "Delete Selected", "Delete Selected", "Delete", true},
+    {"", "InsertNow", "Insert >>", "In", true},
+    {"InsertNow", "Text", "Text", "", true},
+    {"InsertNow", "Tabbed Text", "Tabbed Text", "", true},
+    {"InsertNow", "Image", "Image", "Image1", true},
+    {"InsertNow", "Table", "Table", "Table", true},
+    {"InsertNow", "Hyperlink", "Hyperlink", "Hyperlink", true},
+    {"", "KeyForm", "Insert Form >>", "html", true},
+    {"KeyForm", "Form", "Form", "", true},
+    {"KeyForm", "ListForm", "List Form", "", false},
+    {"KeyForm", "ListField", "List Field", "", false},
+    {"KeyForm", "1 Line Text Box", "Text Box", "", true},
+    {"KeyForm", "Scrolling TextBox", "Text Area", "", true},
+    {"KeyForm", "Password Box", "Password Box", "", true},
+    {"KeyForm", "File Upload", "File Upload", "", false},
+    {"KeyForm", "Radio Button", "Radio Button", "", true},
+    {"KeyForm", "Check Button", "Check Button", "", true},
+    {"KeyForm", "Push Button", "Push Button", "", true},
+    {"KeyForm", "Drop Menu", "Drop Menu", "", true},
+    {"KeyForm", "Label", "Label", "", false},
+    {"", "Spell Checker", "Spell Checker", "", true},
+    {"", "About", "About", "", true},
+};
+
+// Keys whose branch lives in this window's own dispatcher; the rest run the main menu's.
+bool ownBranch(const QString& key)
+{
+    static const QStringList own = {
+        QStringLiteral("Editor Properties"), QStringLiteral("Undo"), QStringLiteral("Redo"),
+        QStringLiteral("SelectAll"), QStringLiteral("Cut"), QStringLiteral("Copy"), QStringLiteral("Paste"),
+        QStringLiteral("Delete Selected"), QStringLiteral("Spell Checker"), QStringLiteral("Password Box"),
+        QStringLiteral("1 Line Text Box"), QStringLiteral("About")};
+    return own.contains(key);
+}
+
+DocumentWindow* active()
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    if (!doc)
+        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("ActiveForm"));
+    return doc;
+}
+
+const QString formFieldsTail =
+    QStringLiteral(" name=T1 size=20><input type=submit value=Submit name=B1><input type=reset value=Reset name=B2></p>");
+}
+
+std::function<void(const QString&)> CodeDocumentWindow::uploadToFtp;
+
+CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
+{
+    editor = new CodeMax(this);
+    workCopy = new RichTextBox(RichTextBox::Kind::Hidden, this, this);
+    changed = new QLabel(this);
+    changed->setObjectName(QStringLiteral("Changedvalue"));
+    changed->hide();
+    browser = new WebBrowser(this);
+    linkLabel = new QLabel(QStringLiteral("Smart Link Preview"), this);
+    linkLabel->setObjectName(QStringLiteral("linkpreview"));
+
+    // The editor's look: line numbers in white on the heading colour.
+    editor->setLineNumbering(true);
+    editor->setDisplayLeftMargin(true);
+    editor->setColour(CodeMax::LineNumberBackColour, heading);
+    editor->setColour(CodeMax::LineNumberColour, 0xFFFFFF);
+    editor->setLanguage(QStringLiteral("HTML"));
+    editor->setContextMenuPolicy(Qt::NoContextMenu);
+    editor->viewport()->installEventFilter(this);
+
+    connect(browser, &WebBrowser::StatusTextChange, this, [this](const QString& text) {
+        linkLabel->setText(text == QLatin1String("Done") ? QStringLiteral("Smart Link Preview [Roll Over Links]") : text);
+    });
+    buildContextMenu();
+}
+
+void CodeDocumentWindow::buildContextMenu()
+{
+    SmartMenuXP1 = new QMenu(QStringLiteral("&File"), this);
+    SmartMenuXP1->setObjectName(QStringLiteral("kMenu"));
+    SmartMenuXP1->setStyleSheet(QStringLiteral("QMenu::item:selected { background: rgb(193, 210, 238); color: black; }"));
+    QHash<QString, QMenu*> submenus;
+    for (const MenuItem& item : contextItems) {
+        const QString key = QString::fromLatin1(item.key);
+        QMenu* parentMenu = *item.parent ? submenus.value(QString::fromLatin1(item.parent)) : SmartMenuXP1;
+        const QIcon icon = *item.icon ? Look::menuIcon(QString::fromLatin1(item.icon)) : QIcon();
+        if (key == QLatin1String("InsertNow") || key == QLatin1String("KeyForm")) {
+            QMenu* sub = parentMenu->addMenu(icon, QString::fromLatin1(item.caption));
+            sub->setObjectName(key);
+            submenus.insert(key, sub);
+            continue;
+        }
+        QAction* a = parentMenu->addAction(icon, QString::fromLatin1(item.caption));
+        a->setObjectName(key);
+        a->setData(key);
+        // An item is live when the window has a branch for it and the build has that branch.
+        a->setEnabled(item.enabled && (ownBranch(key) || frmMain::hasCommand(key)));
+        connect(a, &QAction::triggered, this, Event([this, key] { ContextMenuClick(key); }));
+        contextActions.insert(key, a);
+    }
+}
+
+QAction* CodeDocumentWindow::contextAction(const QString& key) const { return contextActions.value(key); }
+
+void CodeDocumentWindow::ContextMenuClick(const QString& key)
+{
+    if (key == QLatin1String("Editor Properties")) {
+        if (active()->Tag() == QLatin1String("Pad"))
+            MsgBox(QStringLiteral("Not supported for Notepad yet"));
+        else
+            active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
+    } else if (key == QLatin1String("Spell Checker")) {
+        if (active()->Tag() == QLatin1String("Pad"))
+            active()->startspell();
+        else
+            MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
+                   QStringLiteral(":: Notepad Only ::"));
+    } else if (key == QLatin1String("Undo")) {
+        ResumeNext()([] { active()->CodeMax1()->undo(); });
+    } else if (key == QLatin1String("Redo")) {
+        ResumeNext()([] { active()->CodeMax1()->redo(); });
+    } else if (key == QLatin1String("SelectAll")) {
+        active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll);
+    } else if (key == QLatin1String("Cut")) {
+        QApplication::clipboard()->clear();
+        active()->CodeMax1()->cut();
+    } else if (key == QLatin1String("Copy")) {
+        QApplication::clipboard()->clear();
+        active()->CodeMax1()->copy();
+    } else if (key == QLatin1String("Paste")) {
+        active()->CodeMax1()->paste();
+    } else if (key == QLatin1String("Delete Selected")) {
+        active()->CodeMax1()->DeleteSel();
+    } else if (key == QLatin1String("Password Box")) {
+        OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=password") + formFieldsTail); });
+    } else if (key == QLatin1String("1 Line Text Box")) {
+        OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=text") + formFieldsTail); });
+    } else if (key == QLatin1String("About")) {
+        showForm(QStringLiteral("AboutFORM"));
+    } else {
+        frmMain::instance()->MenuClick(key);
+    }
+}
+
+bool CodeDocumentWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    // A right click in the editor pops up the window's own menu at the pointer.
+    if (watched == editor->viewport() && event->type() == QEvent::ContextMenu) {
+        SmartMenuXP1->popup(static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
+    return DocumentWindow::eventFilter(watched, event);
+}
+
+QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, const QString& reportTip)
+{
+    auto* bar = new QFrame(this);
+    bar->setObjectName(name);
+    bar->setStyleSheet(QStringLiteral("QFrame#%1 { background: rgb(255, 255, 240); } "
+                                      "QToolButton:hover { background: rgb(193, 210, 238); }").arg(name));
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(4, 1, 4, 1);
+    row->setSpacing(2);
+    struct Button { const char* tip; QStyle::StandardPixmap icon; std::function<void()> action; };
+    QList<Button> list = {
+        {"Refresh Preview", QStyle::SP_BrowserReload, [this] { refreshPreview(); }},
+        {"Print Preview", QStyle::SP_FileDialogContentsView, [this] { browser->PrintPreview(); }},
+        {"View Full Screen", QStyle::SP_TitleBarMaxButton, [this] { fullScreen(); }},
+        {"Upload To The Interent", QStyle::SP_ArrowUp, [this] { uploadPage(); }},
+        {"Email Page", QStyle::SP_DialogYesButton, [] { frmMain::instance()->MenuClick(QStringLiteral("Email File")); }},
+        {"Lauch File To Default Program", QStyle::SP_DialogOpenButton, [this] { launchPage(); }},
+    };
+    if (withZoom) {
+        list.append({"Enlarge Browser Text", QStyle::SP_ArrowUp, [this] { browser->zoomIn(); }});
+        list.append({"Decrease Browser Text", QStyle::SP_ArrowDown, [this] { browser->zoomOut(); }});
+    }
+    list.append({"", QStyle::SP_FileDialogDetailedView, [] { showForm(QStringLiteral("frmReport")); }});
+    int n = 0;
+    for (const Button& b : list) {
+        auto* button = new QToolButton(bar);
+        button->setObjectName(QStringLiteral("SmartNetButton%1").arg(++n));
+        const QString tip = *b.tip ? QString::fromLatin1(b.tip) : reportTip;
+        button->setToolTip(tip);
+        button->setIcon(style()->standardIcon(b.icon));
+        button->setAutoRaise(true);
+        if (withZoom && (n == 7 || n == 8)) {
+            button->setText(n == 7 ? QStringLiteral("A+") : QStringLiteral("A-"));
+            button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        }
+        row->addWidget(button);
+        buttons.insert(button->objectName(), button);
+        connect(button, &QToolButton::clicked, this, Event(b.action));
+    }
+    // Buttons that lead to windows or commands this build does not have stay disabled.
+    const int last = n;
+    buttons.value(QStringLiteral("SmartNetButton3"))->setEnabled(Forms::hasFactory(QStringLiteral("FullPreview")));
+    buttons.value(QStringLiteral("SmartNetButton5"))->setEnabled(frmMain::hasCommand(QStringLiteral("Email File")));
+    buttons.value(QStringLiteral("SmartNetButton%1").arg(last))->setEnabled(Forms::hasFactory(QStringLiteral("frmReport")));
+    row->addSpacing(12);
+    auto* image = new QLabel(bar);
+    image->setObjectName(QStringLiteral("Image1"));
+    image->setPixmap(style()->standardIcon(QStyle::SP_FileLinkIcon).pixmap(16, 16));
+    image->setToolTip(QStringLiteral("Link Preview"));
+    row->addWidget(image);
+    linkLabel->setParent(bar);
+    row->addWidget(linkLabel, 1);
+    return bar;
+}
+
+QToolButton* CodeDocumentWindow::previewButton(const QString& name) const { return buttons.value(name); }
+
+QString CodeDocumentWindow::previewPath() const
+{
+    if (tempaddress()->text().isEmpty())
+        return App::path() + QStringLiteral("/temp.html");
+    return tempaddress()->text() + previewSuffix();
+}
+
+void CodeDocumentWindow::writeAndShowPreview(const QString& path)
+{
+    // A preview that cannot be written (a read-only folder) ends quietly.
+    OnErrorExit([&] {
+        TextFiles::createIfMissing(path);
+        editor->SaveFile(path, true);
+        browser->Navigate(path);
+    });
+}
+
+void CodeDocumentWindow::showTextStatus()
+{
+    frmMain* main = frmMain::loaded();
+    if (!main)
+        return;
+    main->setStatusText(3, QStringLiteral("Chr: ") + QString::number(editor->TextLength()));
+    main->setStatusText(2, QStringLiteral("Lines: ") + QString::number(editor->LineCount()));
+}
+
+void CodeDocumentWindow::uploadPage()
+{
+    if (tempaddress()->text().isEmpty()) {
+        MsgBox(QStringLiteral("You need to save this document before you can upload it."));
+        return;
+    }
+    if (uploadToFtp)
+        uploadToFtp(tempaddress()->text());
+}
+
+void CodeDocumentWindow::launchPage()
+{
+    if (tempaddress()->text().isEmpty()) {
+        MsgBox(QStringLiteral("This is not a saved file, so Velloro cannot open to default program."));
+        return;
+    }
+    QDesktopServices::openUrl(QUrl::fromLocalFile(tempaddress()->text()));
+}
+
+void CodeDocumentWindow::fullScreen()
+{
+    writeAndShowPreview(previewPath());
+    showForm(QStringLiteral("FullPreview"));
+}

@@ -1,0 +1,176 @@
+#include "documents/OpenSave.h"
+
+#include "documents/Openform.h"
+#include "documents/Saveas.h"
+#include "documents/frmDocument.h"
+#include "documents/frmsplit.h"
+#include "documents/notepad.h"
+#include "documents/tmplsave.h"
+#include "platform/CodeMax.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/RuntimeError.h"
+#include "platform/WindowCounter.h"
+#include "shell/AboutFORM.h"
+#include "shell/Main.h"
+#include "shell/frmMain.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+// The main window's own counters for the windows its file panel and commands make.
+WindowCounter panelPages, panelNotepads, panelSplits, quickNotepads;
+
+DocumentWindow* makeWindow(LoadAs how)
+{
+    switch (how) {
+    case LoadAs::Split: return new frmsplit;
+    case LoadAs::Notepad: return new notepad;
+    default: return new frmDocument;
+    }
+}
+
+// Reads the file into the window's text: the code editor, or the notepad's rich text.
+void loadInto(DocumentWindow* doc, const QString& path)
+{
+    if (doc->Tag() == QLatin1String("Pad"))
+        doc->RichTextBox1()->LoadFile(path);
+    else
+        doc->CodeMax1()->OpenFile(path);
+}
+
+DocumentWindow* openWith(const QString& path, LoadAs how, const QString& caption)
+{
+    DocumentWindow* doc = makeWindow(how);
+    doc->setCaption(caption);
+    frmMain::instance()->addDocument(doc);
+    loadInto(doc, path);
+    doc->tempaddress()->setText(path);
+    return doc;
+}
+
+// Writes the active document to its own file; false (with the message said) when it cannot.
+bool saveActiveToItsFile(DocumentWindow* doc, const QString& path)
+{
+    try {
+        if (doc->Tag() == QLatin1String("Pad"))
+            doc->RichTextBox1()->SaveFile(path);
+        else
+            doc->CodeMax1()->SaveFile(path, true);
+    } catch (const RuntimeError&) {
+        MsgBox(QStringLiteral("The page could not be saved to ") + path
+                   + QStringLiteral(". The file on disk is as it was before."),
+               16, QStringLiteral(":: Save Error ::"));
+        return false;
+    }
+    return true;
+}
+
+void save(int noDocumentStyle, bool clearChange)
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    if (!doc) {
+        MsgBox(QStringLiteral("There is no document open to save."), noDocumentStyle, QStringLiteral(":: No Document ::"));
+        return;
+    }
+    const QString path = doc->tempaddress()->text();
+    if (path.isEmpty()) {
+        MsgBox(QStringLiteral("Needs a filename to save to"));
+        return;
+    }
+    if (!saveActiveToItsFile(doc, path))
+        return;
+    MsgBox(QStringLiteral("Page Saved as :: ") + path, 64, QStringLiteral(":: Page Saved ::"));
+    if (clearChange && doc->Tag() != QLatin1String("Pad"))
+        doc->Changedvalue()->setText(QString());
+}
+}
+
+DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState)
+{
+    const int n = form<Openform>()->nextWindowNumber();
+    const QString caption = how == LoadAs::Notepad ? QStringLiteral("Notepad [ %1 ]").arg(n)
+                                                   : QStringLiteral("Document [ %1 ]").arg(n);
+    DocumentWindow* doc = openWith(path, how, caption);
+    if (how != LoadAs::Notepad)
+        doc->setCaption(QFileInfo(path).fileName());
+    frmMain::instance()->setDocumentCaption(path);
+    if (windowState == 1 || windowState == 2)
+        frmMain::instance()->ActiveForm()->setWindowState(windowState);
+    return doc;
+}
+
+void OpenAsPage(const QString& path)
+{
+    DocumentWindow* doc = openWith(path, LoadAs::Page, QStringLiteral("Document %1").arg(panelPages.next()));
+    doc->setCaption(QFileInfo(path).fileName());
+    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+}
+
+void OpenAsNotepad(const QString& path)
+{
+    openWith(path, LoadAs::Notepad, QStringLiteral("Notepad [ %1 ]").arg(panelNotepads.next()));
+    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+}
+
+void OpenAsSplit(const QString& path)
+{
+    auto* doc = static_cast<frmsplit*>(openWith(path, LoadAs::Split, QStringLiteral("HTML Split [ %1 ]").arg(panelSplits.next())));
+    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro :: [ ") + path + QStringLiteral(" ]"));
+    doc->SplitRefresh();
+}
+
+DocumentWindow* NewNotepad()
+{
+    auto* pad = new notepad;
+    pad->setCaption(QStringLiteral("Notepad [ %1 ]").arg(quickNotepads.next()));
+    frmMain::instance()->addDocument(pad);
+    return pad;
+}
+
+void MenuSave() { save(0, false); }
+void ToolbarSave() { save(16, true); }
+
+void MenuSaveAs()
+{
+    if (!frmMain::instance()->ActiveForm()) {
+        MsgBox(QStringLiteral("There is no document open to save."), 0, QStringLiteral(":: No Document ::"));
+        return;
+    }
+    showForm(QStringLiteral("Saveas"));
+}
+
+void CreateTemplates()
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    const QString path = doc ? doc->tempaddress()->text() : QString();
+    if (path.isEmpty()) {
+        showForm(QStringLiteral("tmplsave"));
+        return;
+    }
+    if (MsgBox(QStringLiteral("Would you like to save with old filename??"), 4, QStringLiteral("Save check ::")) != Answer::Yes) {
+        showForm(QStringLiteral("tmplsave"));
+        return;
+    }
+    OnErrorExit([&] {
+        doc->RichTextBox1()->SaveFile(path);
+        MsgBox(QStringLiteral("Template Saved as :: ") + path);
+    });
+}
+
+void registerDocumentCommands()
+{
+    frmMain::registerCommand(QStringLiteral("Save"), [] { MenuSave(); });
+    frmMain::registerCommand(QStringLiteral("Save As"), [] { MenuSaveAs(); });
+    frmMain::registerCommand(QStringLiteral("Create Templates"), [] { CreateTemplates(); });
+    frmMain::registerCommand(QStringLiteral("Quick Notepad"), [] { NewNotepad(); });
+}
+
+void registerDocumentForms()
+{
+    Forms::registerFactory(QStringLiteral("Openform"), [] { return new Openform; });
+    Forms::registerFactory(QStringLiteral("Saveas"), [] { return new Saveas; });
+    Forms::registerFactory(QStringLiteral("tmplsave"), [] { return new tmplsave; });
+}

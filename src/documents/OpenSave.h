@@ -1,0 +1,36 @@
+#pragma once
+#include <QString>
+
+class DocumentWindow;
+
+// How a file becomes a window, and how a window's text goes back to its file.
+
+enum class LoadAs { Page, Split, Notepad };
+
+// Openform's opening: a window of the chosen kind with the file, captioned and sized as the
+// open window says (state 0 normal, 1 minimised, 2 maximised). The file's path becomes the
+// document's. Errors of the file (missing, unreadable) are run-time errors.
+DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState);
+
+// The file panel's three routines, which skip the open window (with their own captions).
+void OpenAsPage(const QString& path);
+void OpenAsNotepad(const QString& path);
+void OpenAsSplit(const QString& path);
+
+// A new empty notepad ("Quick Notepad").
+DocumentWindow* NewNotepad();
+
+// The menu's "Save": writes the active document to its file, but leaves its change mark.
+void MenuSave();
+// The toolbar's Save: the same, with a critical message when nothing is open, and the change
+// mark cleared after a successful save.
+void ToolbarSave();
+// The menu's "Save As": the save window, or a message when nothing is open.
+void MenuSaveAs();
+// The menu's "Create Templates".
+void CreateTemplates();
+
+// The commands above under their menu keys.
+void registerDocumentCommands();
+// The open, save and template windows, by name.
+void registerDocumentForms();

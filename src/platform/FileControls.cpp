@@ -1,0 +1,120 @@
+#include "platform/FileControls.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QStorageInfo>
+
+DriveListBox::DriveListBox(QWidget* parent) : QComboBox(parent)
+{
+    for (const QStorageInfo& v : QStorageInfo::mountedVolumes())
+        if (v.isValid() && v.isReady())
+            addItem(v.rootPath());
+    if (findText(QDir::rootPath()) < 0)
+        insertItem(0, QDir::rootPath());
+    setCurrentIndex(findText(QDir::rootPath()));
+    connect(this, &QComboBox::currentTextChanged, this, &DriveListBox::Change);
+}
+
+QString DriveListBox::Drive() const { return currentText(); }
+
+void DriveListBox::setDrive(const QString& drive)
+{
+    const QString root = QStorageInfo(drive).isValid() ? QStorageInfo(drive).rootPath() : QDir::rootPath();
+    int i = findText(root);
+    if (i < 0) {
+        addItem(root);
+        i = count() - 1;
+    }
+    setCurrentIndex(i);
+}
+
+DirListBox::DirListBox(QWidget* parent) : QTreeView(parent)
+{
+    model = new QFileSystemModel(this);
+    model->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
+    model->setRootPath(QDir::rootPath());
+    setModel(model);
+    for (int c = 1; c < model->columnCount(); ++c)
+        hideColumn(c);
+    header()->hide();
+    setPath(QDir::homePath());
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) { setPath(model->filePath(index)); });
+}
+
+void DirListBox::setPath(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.isDir())
+        return;
+    const QString clean = QDir::cleanPath(info.absoluteFilePath());
+    const QModelIndex index = model->index(clean);
+    if (index.isValid()) {
+        setCurrentIndex(index);
+        scrollTo(index);
+        expand(index);
+    }
+    if (clean == current)
+        return;
+    current = clean;
+    Q_EMIT Change(current);
+}
+
+FileListBox::FileListBox(QWidget* parent) : QListWidget(parent)
+{
+    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        Q_EMIT fileChosen(QDir(folder).filePath(item->text()));
+    });
+    connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
+        Q_EMIT fileActivated(QDir(folder).filePath(item->text()));
+    });
+}
+
+void FileListBox::setPath(const QString& path)
+{
+    if (!QFileInfo(path).isDir())
+        return;
+    folder = QDir::cleanPath(path);
+    refresh();
+}
+
+void FileListBox::setPattern(const QString& p)
+{
+    pattern = p.isEmpty() ? QStringLiteral("*.*") : p;
+    refresh();
+}
+
+QString FileListBox::FileName() const
+{
+    const QListWidgetItem* item = currentItem();
+    return item && item->isSelected() ? item->text() : QString();
+}
+
+void FileListBox::refresh()
+{
+    clear();
+    if (folder.isEmpty())
+        return;
+    // "*.*" means every file, whether its name has a dot or not.
+    QStringList filters;
+    for (const QString& f : pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+        filters << (f.trimmed() == QLatin1String("*.*") ? QStringLiteral("*") : f.trimmed());
+    QDir dir(folder);
+    dir.setNameFilters(filters);
+    dir.setFilter(QDir::Files | QDir::Hidden);
+    dir.setSorting(QDir::Name | QDir::IgnoreCase);
+    addItems(dir.entryList());
+}
+
+#include <QStandardPaths>
+
+void chainFileControls(DriveListBox* drive, DirListBox* dir, FileListBox* files)
+{
+    QObject::connect(drive, &DriveListBox::Change, dir, [dir](const QString& d) { dir->setPath(d); });
+    QObject::connect(dir, &DirListBox::Change, files, [files](const QString& p) { files->setPath(p); });
+    files->setPath(dir->Path());
+}
+
+QString desktopFolder() { return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation); }
+QString documentsFolder() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
