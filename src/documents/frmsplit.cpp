@@ -33,6 +33,7 @@ frmsplit::frmsplit(QWidget* parent) : CodeDocumentWindow(parent)
     splitter->addWidget(lower);
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 1);
+    splitter->setSizes({1000, 1000});
     linkpreview()->setFont(QFont(QStringLiteral("Lucida Console")));
 
     previewTimer = new QTimer(this);

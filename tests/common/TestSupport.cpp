@@ -9,6 +9,9 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QPixmap>
+#include <QScreen>
+#include <QThread>
 
 namespace {
 void copyTree(const QString& from, const QString& to)
@@ -82,6 +85,11 @@ void saveShot(QWidget* w, const QString& name)
         return;
     QDir().mkpath(dir);
     w->show();
-    QCoreApplication::processEvents();
-    w->grab().save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+    for (int i = 0; i < 10; ++i) {
+        QCoreApplication::processEvents();
+        QThread::msleep(30);
+    }
+    // A whole window is taken from the screen, which also has what the browser drew.
+    const QPixmap shot = w->isWindow() && w->screen() ? w->screen()->grabWindow(w->winId()) : w->grab();
+    shot.save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
 }

@@ -295,3 +295,61 @@ TEST_F(WindowsTest, NotepadRulerShiftsTheIndent)
     pad->moveTabMarker(start);
     EXPECT_EQ(pad->RichTextBox1()->SelIndent(), 0);
 }
+
+namespace {
+// Waits until the browser has finished a load.
+bool waitForDone(WebBrowser* browser)
+{
+    QSignalSpy status(browser, &WebBrowser::StatusTextChange);
+    for (int i = 0; i < 60; ++i) {
+        for (const auto& args : status)
+            if (args.first().toString() == QLatin1String("Done"))
+                return true;
+        status.wait(500);
+    }
+    return false;
+}
+
+const QString samplePage = QStringLiteral(
+    "<html>\r\n<head>\r\n<title>Sample</title>\r\n<style>\r\nbody { font-family: sans-serif; background: #fffff0; }\r\n"
+    "h1 { color: #3481d3; }\r\n</style>\r\n</head>\r\n<body>\r\n<h1>Velloro sample</h1>\r\n"
+    "<p>A paragraph with <b>bold</b> and <a href=\"next.htm\">a link</a>.</p>\r\n"
+    "<table border=1><tr><td>one</td><td>two</td></tr></table>\r\n</body>\r\n</html>");
+}
+
+TEST_F(WindowsTest, PreviewsShowThePageOnBothTabsAndInTheSplitWindow)
+{
+    frmMain::instance()->resize(1200, 860);
+    auto* page = open<frmDocument>();
+    page->CodeMax1()->setText(samplePage);
+    page->setWindowState(2);
+    saveShot(frmMain::instance(), QStringLiteral("page-code"));
+    page->SSTab1->setCurrentIndex(1);
+    ASSERT_TRUE(waitForDone(page->WebBrowser1()));
+    EXPECT_EQ(page->linkpreview()->text(), QStringLiteral("Smart Link Preview [Roll Over Links]"));
+    saveShot(frmMain::instance(), QStringLiteral("page-preview"));
+
+    auto* split = open<frmsplit>(QStringLiteral("HTML Split [ 1 ]"));
+    split->setWindowState(2);
+    split->CodeMax1()->setText(samplePage);
+    for (const char* piece : {"<p>typed ", "while ", "previewing</p>"}) {
+        split->CodeMax1()->setSelText(QString::fromLatin1(piece));
+        split->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
+    }
+    split->flushPreview();
+    ASSERT_TRUE(waitForDone(split->WebBrowser1()));
+    EXPECT_TRUE(tempHtml().contains("previewing</p>"));
+    saveShot(frmMain::instance(), QStringLiteral("split-typing"));
+
+    auto* pad = open<notepad>(QStringLiteral("Notepad [ 1 ]"));
+    pad->setWindowState(2);
+    RichTextBox* box = pad->RichTextBox1();
+    box->setText(QStringLiteral("Shopping list\r\nbread and butter\r\ncoffee\r\n\r\nCall the printer about the flyers."));
+    box->setSelStart(0);
+    box->setSelLength(13);
+    box->setSelBold(true);
+    box->setSelFontSize(16);
+    box->setSelColor(0xD38134);
+    EXPECT_TRUE(box->SelBold());
+    saveShot(frmMain::instance(), QStringLiteral("notepad"));
+}
