@@ -268,11 +268,8 @@ QString CodeDocumentWindow::previewPath() const
 void CodeDocumentWindow::writeAndShowPreview(const QString& path)
 {
     // A preview that cannot be written (a read-only folder) ends quietly.
-    OnErrorExit([&] {
-        TextFiles::createIfMissing(path);
-        editor->SaveFile(path, true);
+    if (TextFiles::writeScratch(path, editor->utf8Text()))
         browser->Navigate(path);
-    });
 }
 
 void CodeDocumentWindow::showTextStatus()

@@ -4,6 +4,7 @@
 #include "platform/CodeMax.h"
 #include "platform/WebBrowser.h"
 
+#include <QElapsedTimer>
 #include <QFont>
 #include <QLabel>
 #include <QSplitter>
@@ -39,7 +40,7 @@ frmsplit::frmsplit(QWidget* parent) : CodeDocumentWindow(parent)
     previewTimer = new QTimer(this);
     previewTimer->setSingleShot(true);
     previewTimer->setInterval(previewDelayMs);
-    connect(previewTimer, &QTimer::timeout, this, [this] { writeAndShowPreview(App::path() + QStringLiteral("/temp.html")); });
+    connect(previewTimer, &QTimer::timeout, this, &frmsplit::writeLivePreview);
     connect(CodeMax1(), &CodeMax::Change, this, &frmsplit::SplitChanged);
 }
 
@@ -56,7 +57,17 @@ void frmsplit::flushPreview()
     if (!previewTimer->isActive())
         return;
     previewTimer->stop();
+    writeLivePreview();
+}
+
+void frmsplit::writeLivePreview()
+{
+    QElapsedTimer took;
+    took.start();
     writeAndShowPreview(App::path() + QStringLiteral("/temp.html"));
+    // A long text takes long to write and show: the next write waits a few times as long,
+    // so that the keys always come first.
+    previewTimer->setInterval(qMax<qint64>(previewDelayMs, 4 * took.elapsed()));
 }
 
 void frmsplit::SplitRefresh()

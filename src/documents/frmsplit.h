@@ -29,5 +29,6 @@ protected:
     void refreshPreview() override { SplitChanged(); }
 
 private:
+    void writeLivePreview();
     QTimer* previewTimer = nullptr;
 };

@@ -126,6 +126,14 @@ bool writeBytes(const QString& path, const QByteArray& bytes, QString* error)
     return true;
 }
 
+bool writeScratch(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    return f.write(bytes) == bytes.size();
+}
+
 bool writeText(const QString& path, const QString& text, QString* error)
 {
     return writeBytes(path, encode(text), error);
