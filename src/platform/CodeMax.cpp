@@ -1,5 +1,6 @@
 #include "platform/CodeMax.h"
 
+#include "platform/FindReplaceDialog.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 
@@ -30,6 +31,15 @@ QHash<QString, CodeMax::LexerFactory>& languageTable()
     return t;
 }
 
+// Characters in UTF-8 text: every byte that does not continue a sequence starts one.
+qint64 utf8Characters(const char* text, int length)
+{
+    qint64 n = 0;
+    for (int i = 0; i < length; ++i)
+        n += (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80;
+    return n;
+}
+
 QColor fromPlatformColour(int c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 }
 
@@ -44,7 +54,16 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
     setEolMode(EolWindows);
     setTabWidth(4);
     setBraceMatching(SloppyBraceMatch);
-    connect(this, &QsciScintilla::textChanged, this, &CodeMax::Change);
+    // The character count follows each change, so the status line costs nothing per key
+    // however long the text is.
+    connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+            [this](int, int type, const char* text, int length, int, int, int, int, int, int) {
+                if (!(type & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)))
+                    return;
+                if (text)
+                    characters += (type & SC_MOD_INSERTTEXT ? 1 : -1) * utf8Characters(text, length);
+                Q_EMIT Change();
+            });
     connect(this, &QsciScintilla::linesChanged, this, &CodeMax::updateLineNumberWidth);
 }
 
@@ -64,10 +83,13 @@ void CodeMax::setSelText(const QString& text)
 
 int CodeMax::SelLength() const { return selectedText().size(); }
 
-int CodeMax::TextLength() const
+int CodeMax::TextLength() const { return static_cast<int>(characters); }
+
+QByteArray CodeMax::utf8Text() const
 {
     const long bytes = SendScintilla(SCI_GETLENGTH);
-    return static_cast<int>(SendScintilla(SCI_COUNTCHARACTERS, 0UL, bytes));
+    const auto* data = reinterpret_cast<const char*>(SendScintilla(SCI_GETCHARACTERPOINTER));
+    return QByteArray(data, bytes);
 }
 
 int CodeMax::LineCount() const { return lines(); }
@@ -103,7 +125,7 @@ void CodeMax::ExecuteCmd(int command)
     case LineUp: SendScintilla(SCI_LINEUP); return;
     case LineDown: SendScintilla(SCI_LINEDOWN); return;
     case DeleteLine: SendScintilla(SCI_LINEDELETE); return;
-    case FindReplace: Q_EMIT findReplaceRequested(); return;
+    case FindReplace: Q_EMIT findReplaceRequested(); FindReplaceDialog::open(this); return;
     case CollapseRight: collapseSelectionRight(); return;
     case RecordMacro: toggleRecording(); return;
     case EditorProperties: Q_EMIT propertiesRequested(); return;
@@ -161,7 +183,7 @@ void CodeMax::SaveFile(const QString& path, bool overwrite)
     if (!overwrite && QFileInfo::exists(path))
         throw RuntimeError(58, QStringLiteral("File already exists"), QStringLiteral("CodeMax.SaveFile"));
     QString error;
-    if (!TextFiles::writeText(path, text(), &error))
+    if (!TextFiles::writeBytes(path, utf8Text(), &error))
         throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("CodeMax.SaveFile"));
 }
 

@@ -30,6 +30,8 @@ public:
     void setSelText(const QString& text);
     int SelLength() const;
     int TextLength() const;   // in characters
+    // The text as the file holds it, straight from the editor's buffer.
+    QByteArray utf8Text() const;
     int LineCount() const;
     void DeleteSel();
 
@@ -80,4 +82,5 @@ private:
     QsciMacro* recording = nullptr;
     QHash<int, QString> macros;  // slot -> recorded macro
     int highlighted = -1;
+    qint64 characters = 0;
 };
