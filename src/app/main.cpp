@@ -1,6 +1,11 @@
+#include "documents/OpenSave.h"
 #include "platform/Application.h"
+#include "platform/EventProcedure.h"
+#include "platform/RuntimeError.h"
 #include "shell/Main.h"
 #include "shell/frmMain.h"
+
+#include <QFileInfo>
 
 int main(int argc, char** argv)
 {
@@ -11,5 +16,15 @@ int main(int argc, char** argv)
     if (!main)
         return 0;  // the settings were reset: the next start is a normal one
     QObject::connect(main, &QObject::destroyed, &app, &QCoreApplication::quit);
+    // Files named on the command line (as a desktop's "Open with" passes them) open as pages.
+    for (const QString& arg : app.arguments().mid(1)) {
+        if (!QFileInfo(arg).isFile())
+            continue;
+        try {
+            OpenDocument(QFileInfo(arg).absoluteFilePath(), LoadAs::Page, 2);
+        } catch (const RuntimeError& e) {
+            ReportRunTimeError(e);
+        }
+    }
     return app.exec();
 }

@@ -12,6 +12,8 @@
 #include <Qsci/qscilexerxml.h>
 #include <Qsci/qscimacro.h>
 
+#include <QFile>
+#include <climits>
 #include <QFileInfo>
 #include <QFontDatabase>
 
@@ -54,6 +56,8 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
     setEolMode(EolWindows);
     setTabWidth(4);
     setBraceMatching(SloppyBraceMatch);
+    // Colouring a long text goes on while the editor is idle, after the visible part.
+    SendScintilla(SCI_SETIDLESTYLING, SC_IDLESTYLING_ALL);
     // The character count follows each change, so the status line costs nothing per key
     // however long the text is.
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
@@ -171,11 +175,57 @@ void CodeMax::playMacro(int slot)
 
 void CodeMax::OpenFile(const QString& path)
 {
-    bool ok = false;
-    const QString text = TextFiles::readText(path, &ok);
-    if (!ok)
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("CodeMax.OpenFile"));
-    setText(text);
+    // UTF-8 goes into the editor piece by piece as it is read: no whole copy of the file, none
+    // as wide text and none in the undo history, which a big file cannot afford. Loading is not
+    // an edit to undo.
+    SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+    SendScintilla(SCI_CLEARALL);
+    // The pieces are one change to the rest of the program: it hears of the whole text once.
+    const bool wasBlocked = blockSignals(true);
+    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(file.size() + 1, INT_MAX)));
+    constexpr qint64 piece = 16 << 20;
+    QByteArray carry;  // the start of a character cut by the end of a piece
+    bool utf8 = true;
+    while (utf8 && !file.atEnd()) {
+        QByteArray chunk = carry + file.read(piece);
+        // Hold back an incomplete sequence at the end for the next piece.
+        qsizetype cut = chunk.size();
+        for (qsizetype back = 1; back <= 3 && back <= chunk.size(); ++back) {
+            const auto b = static_cast<unsigned char>(chunk[chunk.size() - back]);
+            if ((b & 0xC0) == 0x80)
+                continue;
+            const int need = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC0 ? 2 : 1;
+            if (need > back)
+                cut = chunk.size() - back;
+            break;
+        }
+        carry = chunk.mid(cut);
+        chunk.truncate(cut);
+        if (!QByteArrayView(chunk).isValidUtf8()) {
+            utf8 = false;
+            break;
+        }
+        SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(chunk.size()), chunk.constData());
+    }
+    if (!carry.isEmpty())
+        utf8 = false;  // the file ends inside a character
+    blockSignals(wasBlocked);
+    if (utf8) {
+        const long bytes = SendScintilla(SCI_GETLENGTH);
+        characters = SendScintilla(SCI_COUNTCHARACTERS, 0UL, bytes);
+        updateLineNumberWidth();
+        Q_EMIT Change();
+    } else {
+        // Not UTF-8: the whole file again, as text with the fallback for other bytes.
+        file.seek(0);
+        setText(TextFiles::decode(file.readAll()));
+    }
+    SendScintilla(SCI_EMPTYUNDOBUFFER);
+    SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
+    SendScintilla(SCI_GOTOPOS, 0UL);
 }
 
 void CodeMax::SaveFile(const QString& path, bool overwrite)
