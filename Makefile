@@ -30,6 +30,7 @@ test: build
 
 bench: build
 	$(BUILD)/bench/bench_settings
+	$(BUILD)/bench/bench_colouring
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing
 	bench/startup.sh $(BUILD)/velloro
 

@@ -166,6 +166,8 @@ void registerDocumentCommands()
     frmMain::registerCommand(QStringLiteral("Save As"), [] { MenuSaveAs(); });
     frmMain::registerCommand(QStringLiteral("Create Templates"), [] { CreateTemplates(); });
     frmMain::registerCommand(QStringLiteral("Quick Notepad"), [] { NewNotepad(); });
+    frmMain::registerCommand(QStringLiteral("Find + Replace"), [] { showForm(QStringLiteral("findform")); });
+    frmMain::registerCommand(QStringLiteral("GoTo Line"), [] { showForm(QStringLiteral("frmgoto")); });
 }
 
 void registerDocumentForms()

@@ -256,8 +256,16 @@ void CodeMax::setLanguage(const QString& name)
     const auto factory = languageTable().value(name);
     if (factory) {
         QsciLexer* lx = factory(this);
+        // The editor's face and size for every style, keeping each style's weight and slant.
         lx->setDefaultFont(font());
-        lx->setFont(font());
+        for (int style = 0; style < 128; ++style) {
+            if (lx->description(style).isEmpty())
+                continue;
+            QFont f = lx->font(style);
+            f.setFamily(font().family());
+            f.setPointSize(font().pointSize());
+            lx->setFont(f, style);
+        }
         setLexer(lx);
     } else {
         setLexer(nullptr);

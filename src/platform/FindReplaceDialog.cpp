@@ -14,7 +14,6 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include <regex>
 
 using Look::named;
 
@@ -144,25 +143,53 @@ QString FindReplaceDialog::notFound() const
     return tr("Cannot find \"%1\".").arg(findText->text());
 }
 
-int FindReplaceDialog::searchFlags() const
+namespace {
+using Sci = QsciScintillaBase;
+
+// The editor counts positions in UTF-8 bytes, the text in UTF-16 units.
+long bytesAt(const QString& text, int index) { return QStringView(text).first(index).toUtf8().size(); }
+int indexAt(const QString& text, long bytes) { return QString::fromUtf8(text.toUtf8().first(bytes)).size(); }
+
+bool isWordChar(char32_t c)
 {
-    int flags = 0;
-    if (matchCase->isChecked())
-        flags |= QsciScintillaBase::SCFIND_MATCHCASE;
-    if (regularExpression->isChecked())
-        flags |= QsciScintillaBase::SCFIND_REGEXP | QsciScintillaBase::SCFIND_CXX11REGEX;
-    else if (wholeWord->isChecked())
-        flags |= QsciScintillaBase::SCFIND_WHOLEWORD;
-    return flags;
+    return c == U'_' || QChar::isLetterOrNumber(c) || QChar::category(c) == QChar::Mark_NonSpacing ||
+           QChar::category(c) == QChar::Mark_SpacingCombining;
 }
 
-QByteArray FindReplaceDialog::pattern() const
+char32_t codePointBefore(const QString& t, int i)
+{
+    if (i >= 2 && t[i - 1].isLowSurrogate() && t[i - 2].isHighSurrogate())
+        return QChar::surrogateToUcs4(t[i - 2], t[i - 1]);
+    return t[i - 1].unicode();
+}
+
+char32_t codePointAt(const QString& t, int i)
+{
+    if (i + 1 < t.size() && t[i].isHighSurrogate() && t[i + 1].isLowSurrogate())
+        return QChar::surrogateToUcs4(t[i], t[i + 1]);
+    return t[i].unicode();
+}
+
+// One character on, never into the middle of a surrogate pair.
+int nextIndex(const QString& t, int i)
+{
+    return (i + 1 < t.size() && t[i].isHighSurrogate() && t[i + 1].isLowSurrogate()) ? i + 2 : i + 1;
+}
+}
+
+QRegularExpression FindReplaceDialog::regex() const
 {
     QString p = findText->text();
-    // The editor's whole-word flag does not apply to patterns: say it in the pattern.
-    if (regularExpression->isChecked() && wholeWord->isChecked())
+    if (wholeWord->isChecked())
         p = QStringLiteral("\\b(?:") + p + QStringLiteral(")\\b");
-    return p.toUtf8();
+    // The editor's lines end in CR LF: let ^ and $ take that pair (or either alone) as one
+    // line end, so a replacement never lands between CR and LF.
+    p.prepend(QStringLiteral("(*ANYCRLF)"));
+    QRegularExpression::PatternOptions options =
+        QRegularExpression::MultilineOption | QRegularExpression::UseUnicodePropertiesOption;
+    if (!matchCase->isChecked())
+        options |= QRegularExpression::CaseInsensitiveOption;
+    return QRegularExpression(p, options);
 }
 
 bool FindReplaceDialog::ready()
@@ -172,96 +199,132 @@ bool FindReplaceDialog::ready()
         return false;
     }
     if (regularExpression->isChecked()) {
-        // The editor compiles the same ECMAScript dialect on wide characters; a pattern it
-        // would refuse is caught here, where the reason can still be told.
-        try {
-            auto flags = std::regex::ECMAScript;
-            if (!matchCase->isChecked())
-                flags |= std::regex::icase;
-            const std::wregex check(QString::fromUtf8(pattern()).toStdWString(), flags);
-        } catch (const std::regex_error& e) {
-            say(tr("Invalid regular expression: %1").arg(QString::fromLocal8Bit(e.what())));
+        const QRegularExpression re = regex();
+        if (!re.isValid()) {
+            say(tr("Invalid regular expression: %1.").arg(re.errorString()));
             return false;
         }
     }
     return true;
 }
 
-FindReplaceDialog::Match FindReplaceDialog::search(long from, long to)
+bool FindReplaceDialog::wholeWordAt(const QString& text, int start, int end) const
 {
-    const QByteArray p = pattern();
-    ed->SendScintilla(QsciScintillaBase::SCI_SETSEARCHFLAGS, static_cast<unsigned long>(searchFlags()));
-    ed->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, static_cast<unsigned long>(from));
-    ed->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, static_cast<unsigned long>(to));
-    const long pos = ed->SendScintilla(QsciScintillaBase::SCI_SEARCHINTARGET,
-                                       static_cast<uintptr_t>(p.size()), p.constData());
-    if (ed->SendScintilla(QsciScintillaBase::SCI_GETSTATUS) != QsciScintillaBase::SC_STATUS_OK) {
-        ed->SendScintilla(QsciScintillaBase::SCI_SETSTATUS, 0UL);
-        badPattern = true;
-        return {};
-    }
-    if (pos < 0) {
-        badPattern = pos == -2;
-        return {};
-    }
-    return {pos, ed->SendScintilla(QsciScintillaBase::SCI_GETTARGETEND)};
+    if (start > 0 && isWordChar(codePointBefore(text, start)))
+        return false;
+    return end >= text.size() || !isWordChar(codePointAt(text, end));
 }
 
-FindReplaceDialog::Match FindReplaceDialog::find(bool forward, bool* wrapped)
+FindReplaceDialog::Match FindReplaceDialog::firstFrom(const QString& text, int from) const
+{
+    if (from > text.size())
+        return {};
+    if (regularExpression->isChecked()) {
+        const QRegularExpressionMatch m = regex().match(text, from);
+        if (!m.hasMatch())
+            return {};
+        return {static_cast<int>(m.capturedStart()), static_cast<int>(m.capturedEnd()), m.capturedTexts()};
+    }
+    const QString needle = findText->text();
+    const Qt::CaseSensitivity cs = matchCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    for (int i = from;;) {
+        i = static_cast<int>(text.indexOf(needle, i, cs));
+        if (i < 0)
+            return {};
+        const int end = i + static_cast<int>(needle.size());
+        if (!wholeWord->isChecked() || wholeWordAt(text, i, end))
+            return {i, end, {}};
+        i = nextIndex(text, i);
+    }
+}
+
+FindReplaceDialog::Match FindReplaceDialog::lastBefore(const QString& text, int before, bool emptyThere) const
+{
+    if (regularExpression->isChecked()) {
+        Match last;
+        for (const Match& m : all(text)) {
+            if (m.end > before || (m.empty() && m.start == before && !emptyThere))
+                break;
+            last = m;
+        }
+        return last;
+    }
+    const QString needle = findText->text();
+    const Qt::CaseSensitivity cs = matchCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    for (int i = before - static_cast<int>(needle.size()); i >= 0; --i) {
+        i = static_cast<int>(text.lastIndexOf(needle, i, cs));
+        if (i < 0)
+            return {};
+        const int end = i + static_cast<int>(needle.size());
+        if (!wholeWord->isChecked() || wholeWordAt(text, i, end))
+            return {i, end, {}};
+    }
+    return {};
+}
+
+QList<FindReplaceDialog::Match> FindReplaceDialog::all(const QString& text) const
+{
+    QList<Match> found;
+    if (regularExpression->isChecked()) {
+        QRegularExpressionMatchIterator it = regex().globalMatch(text);
+        while (it.hasNext()) {
+            const QRegularExpressionMatch m = it.next();
+            found.append({static_cast<int>(m.capturedStart()), static_cast<int>(m.capturedEnd()), m.capturedTexts()});
+        }
+        return found;
+    }
+    for (Match m = firstFrom(text, 0); m.found(); m = firstFrom(text, m.end))
+        found.append(m);
+    return found;
+}
+
+FindReplaceDialog::Match FindReplaceDialog::find(const QString& text, bool forward, bool* wrapped)
 {
     *wrapped = false;
-    badPattern = false;
-    const long length = ed->SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
-    const long selStart = ed->SendScintilla(QsciScintillaBase::SCI_GETSELECTIONSTART);
-    const long selEnd = ed->SendScintilla(QsciScintillaBase::SCI_GETSELECTIONEND);
-    const long from = forward ? selEnd : selStart;
-    const long limit = forward ? length : 0;
-
-    Match m = search(from, limit);
-    // An empty match where the caret already stands would be found again and again: step
-    // one character on.
-    if (m.found() && m.start == m.end && m.start == from && selStart == selEnd) {
-        if (from == limit)
-            m = {};
-        else
-            m = search(ed->SendScintilla(forward ? QsciScintillaBase::SCI_POSITIONAFTER
-                                                 : QsciScintillaBase::SCI_POSITIONBEFORE,
-                                         static_cast<unsigned long>(from)),
-                       limit);
+    const int selStart = indexAt(text, ed->SendScintilla(Sci::SCI_GETSELECTIONSTART));
+    const int selEnd = indexAt(text, ed->SendScintilla(Sci::SCI_GETSELECTIONEND));
+    const bool caretOnly = selStart == selEnd;
+    Match m;
+    if (forward) {
+        m = firstFrom(text, selEnd);
+        // An empty match where the caret already stands would be found again and again.
+        if (m.found() && m.empty() && m.start == selEnd && caretOnly)
+            m = selEnd < text.size() ? firstFrom(text, nextIndex(text, selEnd)) : Match{};
+    } else {
+        m = lastBefore(text, selStart, !caretOnly);
     }
-    if (!m.found() && !badPattern && wrapAround->isChecked()) {
-        m = forward ? search(0, length) : search(length, 0);
+    if (!m.found() && wrapAround->isChecked()) {
+        m = forward ? firstFrom(text, 0) : lastBefore(text, static_cast<int>(text.size()), true);
         *wrapped = m.found();
     }
     return m;
 }
 
-void FindReplaceDialog::select(const Match& m, bool forward)
+void FindReplaceDialog::select(const QString& text, const Match& m, bool forward)
 {
-    const long line = ed->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, static_cast<unsigned long>(m.start));
-    ed->SendScintilla(QsciScintillaBase::SCI_ENSUREVISIBLEENFORCEPOLICY, static_cast<unsigned long>(line));
+    lastStart = bytesAt(text, m.start);
+    lastEnd = lastStart + QStringView(text).mid(m.start, m.end - m.start).toUtf8().size();
+    const long line = ed->SendScintilla(Sci::SCI_LINEFROMPOSITION, static_cast<unsigned long>(lastStart));
+    ed->SendScintilla(Sci::SCI_ENSUREVISIBLEENFORCEPOLICY, static_cast<unsigned long>(line));
     // The caret goes to the end the search moves towards, so the next search starts there.
     if (forward)
-        ed->SendScintilla(QsciScintillaBase::SCI_SETSEL, static_cast<unsigned long>(m.start), m.end);
+        ed->SendScintilla(Sci::SCI_SETSEL, static_cast<unsigned long>(lastStart), lastEnd);
     else
-        ed->SendScintilla(QsciScintillaBase::SCI_SETSEL, static_cast<unsigned long>(m.end), m.start);
+        ed->SendScintilla(Sci::SCI_SETSEL, static_cast<unsigned long>(lastEnd), lastStart);
 }
 
 bool FindReplaceDialog::findNext()
 {
     if (!ready())
         return false;
+    const QString text = ed->text();
     bool wrapped = false;
-    const Match m = find(true, &wrapped);
-    if (badPattern) {
-        say(tr("Invalid regular expression."));
-        return false;
-    }
+    const Match m = find(text, true, &wrapped);
     if (!m.found()) {
         say(notFound());
         return false;
     }
-    select(m, true);
+    select(text, m, true);
     say(wrapped ? tr("Passed the end of the text; continued from the start.") : QString());
     return true;
 }
@@ -270,54 +333,82 @@ bool FindReplaceDialog::findPrevious()
 {
     if (!ready())
         return false;
+    const QString text = ed->text();
     bool wrapped = false;
-    const Match m = find(false, &wrapped);
-    if (badPattern) {
-        say(tr("Invalid regular expression."));
-        return false;
-    }
+    const Match m = find(text, false, &wrapped);
     if (!m.found()) {
         say(notFound());
         return false;
     }
-    select(m, false);
+    select(text, m, false);
     say(wrapped ? tr("Passed the start of the text; continued from the end.") : QString());
     return true;
 }
 
-long FindReplaceDialog::replaceTarget()
+QString FindReplaceDialog::replacementFor(const Match& m) const
 {
-    const QByteArray r = replaceText->text().toUtf8();
-    const unsigned int message = regularExpression->isChecked() ? QsciScintillaBase::SCI_REPLACETARGETRE
-                                                                : QsciScintillaBase::SCI_REPLACETARGET;
-    return ed->SendScintilla(message, static_cast<uintptr_t>(r.size()), r.constData());
+    const QString r = replaceText->text();
+    if (!regularExpression->isChecked())
+        return r;
+    // \0 to \9 are the groups of the match; \n, \r, \t and \\ the usual characters.
+    QString out;
+    for (qsizetype i = 0; i < r.size(); ++i) {
+        if (r[i] != QLatin1Char('\\') || i + 1 == r.size()) {
+            out += r[i];
+            continue;
+        }
+        const QChar c = r[++i];
+        if (c.isDigit() && c.digitValue() >= 0 && c.digitValue() <= 9)
+            out += m.captures.value(c.digitValue());
+        else if (c == QLatin1Char('n'))
+            out += QLatin1Char('\n');
+        else if (c == QLatin1Char('r'))
+            out += QLatin1Char('\r');
+        else if (c == QLatin1Char('t'))
+            out += QLatin1Char('\t');
+        else if (c == QLatin1Char('\\'))
+            out += QLatin1Char('\\');
+        else
+            out += QLatin1Char('\\') + c;
+    }
+    return out;
+}
+
+namespace {
+// Replaces a byte range of the editor through its target, as one editing step.
+long replaceBytes(CodeMax* ed, long start, long end, const QString& with)
+{
+    const QByteArray bytes = with.toUtf8();
+    ed->SendScintilla(Sci::SCI_SETTARGETRANGE, static_cast<unsigned long>(start), end);
+    ed->SendScintilla(Sci::SCI_REPLACETARGET, static_cast<uintptr_t>(bytes.size()), bytes.constData());
+    return bytes.size();
+}
 }
 
 bool FindReplaceDialog::replace()
 {
     if (!ready() || ed->isReadOnly())
         return false;
-    const long selStart = ed->SendScintilla(QsciScintillaBase::SCI_GETSELECTIONSTART);
-    const long selEnd = ed->SendScintilla(QsciScintillaBase::SCI_GETSELECTIONEND);
+    const QString text = ed->text();
+    const long selStartBytes = ed->SendScintilla(Sci::SCI_GETSELECTIONSTART);
+    const long selEndBytes = ed->SendScintilla(Sci::SCI_GETSELECTIONEND);
     bool replaced = false;
-    if (selStart != selEnd) {
-        // Only a selection that is itself a match is replaced; anything else the user may have
-        // selected by hand stays as it is.
-        badPattern = false;
-        const Match m = search(selStart, ed->SendScintilla(QsciScintillaBase::SCI_GETLENGTH));
+    // Only a selection that is itself a match is replaced; anything else the user may have
+    // selected by hand stays as it is. An empty match counts only when it was just found.
+    if (selStartBytes != selEndBytes || (selStartBytes == lastStart && selEndBytes == lastEnd)) {
+        const int selStart = indexAt(text, selStartBytes);
+        const int selEnd = indexAt(text, selEndBytes);
+        const Match m = firstFrom(text, selStart);
         if (m.found() && m.start == selStart && m.end == selEnd) {
-            const long n = replaceTarget();
-            ed->SendScintilla(QsciScintillaBase::SCI_SETEMPTYSELECTION, static_cast<unsigned long>(selStart + n));
+            const long n = replaceBytes(ed, selStartBytes, selEndBytes, replacementFor(m));
+            ed->SendScintilla(Sci::SCI_SETEMPTYSELECTION, static_cast<unsigned long>(selStartBytes + n));
+            lastStart = lastEnd = -1;
             replaced = true;
         }
     }
     const bool more = findNext();
-    if (replaced) {
-        if (more)
-            say(tr("Replaced 1 occurrence."));
-        else
-            say(tr("Replaced 1 occurrence. No more found."));
-    }
+    if (replaced)
+        say(more ? tr("Replaced 1 occurrence.") : tr("Replaced 1 occurrence. No more found."));
     return replaced;
 }
 
@@ -325,40 +416,45 @@ int FindReplaceDialog::replaceAll()
 {
     if (!ready() || ed->isReadOnly())
         return -1;
-    badPattern = false;
-    int count = 0;
-    long lastEnd = -1;
-    long pos = 0;
-    ed->beginUndoAction();
-    for (;;) {
-        const long length = ed->SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
-        if (pos > length)
-            break;
-        const Match m = search(pos, length);
-        if (!m.found())
-            break;
-        const long n = replaceTarget();
-        ++count;
-        lastEnd = m.start + n;
-        pos = lastEnd;
-        if (m.start == m.end) {
-            // An empty match would match again right behind its replacement.
-            const long newLength = ed->SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
-            if (pos >= newLength)
-                break;
-            pos = ed->SendScintilla(QsciScintillaBase::SCI_POSITIONAFTER, static_cast<unsigned long>(pos));
-        }
-    }
-    ed->endUndoAction();
-    if (badPattern) {
-        say(tr("Invalid regular expression."));
-        return -1;
-    }
-    if (count == 0) {
+    const QString text = ed->text();
+    const QList<Match> matches = all(text);
+    if (matches.isEmpty()) {
         say(notFound());
         return 0;
     }
-    ed->SendScintilla(QsciScintillaBase::SCI_SETEMPTYSELECTION, static_cast<unsigned long>(lastEnd));
+    // Byte positions of every match in one walk through the text.
+    struct Edit {
+        long start, end;
+        QString with;
+    };
+    QList<Edit> edits;
+    edits.reserve(matches.size());
+    long bytes = 0;
+    int at = 0;
+    for (const Match& m : matches) {
+        bytes += QStringView(text).mid(at, m.start - at).toUtf8().size();
+        const long start = bytes;
+        bytes += QStringView(text).mid(m.start, m.end - m.start).toUtf8().size();
+        at = m.end;
+        edits.append({start, bytes, replacementFor(m)});
+    }
+    // From the last to the first, so that the positions still to come stay true; as one step
+    // for undo.
+    long shift = 0;
+    long lastLength = 0;
+    ed->beginUndoAction();
+    for (qsizetype i = edits.size() - 1; i >= 0; --i) {
+        const Edit& e = edits[i];
+        const long n = replaceBytes(ed, e.start, e.end, e.with);
+        if (i == edits.size() - 1)
+            lastLength = n;
+        else
+            shift += n - (e.end - e.start);
+    }
+    ed->endUndoAction();
+    lastStart = lastEnd = -1;
+    ed->SendScintilla(Sci::SCI_SETEMPTYSELECTION, static_cast<unsigned long>(edits.last().start + shift + lastLength));
+    const int count = static_cast<int>(edits.size());
     say(count == 1 ? tr("Replaced 1 occurrence.") : tr("Replaced %1 occurrences.").arg(count));
     return count;
 }

@@ -1,5 +1,7 @@
 #pragma once
 #include <QDialog>
+#include <QRegularExpression>
+#include <QStringList>
 
 class CodeMax;
 class QCheckBox;
@@ -10,7 +12,9 @@ class QPushButton;
 // The code editor's own find and replace dialog (editor command 169). Each editor has one,
 // made on first use and owned by the editor; it is not modal, so the user can edit between
 // searches. Every search starts from the editor's current selection, so nothing it remembers
-// can go stale while the text changes underneath.
+// can go stale while the text changes underneath. Matching is done on the text as Unicode
+// (the editor's own search folds the case of ASCII letters only); the editor still does the
+// selecting and the replacing, so undo and the change event work as for typing.
 class FindReplaceDialog : public QDialog {
     Q_OBJECT
 public:
@@ -50,26 +54,35 @@ public:
 private:
     explicit FindReplaceDialog(CodeMax* editor);
 
+    // A match in a snapshot of the editor's text, in QString positions.
     struct Match {
-        long start = -1;
-        long end = -1;
+        int start = -1;
+        int end = -1;
+        QStringList captures;
         bool found() const { return start >= 0; }
+        bool empty() const { return start == end; }
     };
 
     // Checks the find text and the pattern; says why on the status line when unusable.
     bool ready();
-    int searchFlags() const;
-    QByteArray pattern() const;
-    // One search in the byte range [from, to); a backward search when from > to. Leaves the
-    // editor's target on the match, ready for a replacement.
-    Match search(long from, long to);
-    Match find(bool forward, bool* wrapped);
-    long replaceTarget();
-    void select(const Match& m, bool forward);
+    QRegularExpression regex() const;
+    // The first match starting at or after from.
+    Match firstFrom(const QString& text, int from) const;
+    // The last match ending at or before `before`; an empty one right there counts only when
+    // emptyThere is true.
+    Match lastBefore(const QString& text, int before, bool emptyThere) const;
+    // Every match, first to last, none overlapping.
+    QList<Match> all(const QString& text) const;
+    bool wholeWordAt(const QString& text, int start, int end) const;
+    Match find(const QString& text, bool forward, bool* wrapped);
+    QString replacementFor(const Match& m) const;
+    void select(const QString& text, const Match& m, bool forward);
     void say(const QString& text);
     void updateButtons();
     QString notFound() const;
 
     CodeMax* ed;
-    bool badPattern = false;
+    // What this dialog selected last, in the editor's own positions: an empty match can be
+    // replaced only when it is the one just found.
+    long lastStart = -1, lastEnd = -1;
 };

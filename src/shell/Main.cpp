@@ -3,6 +3,8 @@
 #include "documents/DocumentWindow.h"
 #include "documents/OpenSave.h"
 #include "documents/PageGenerator.h"
+#include "documents/SyntaxLanguages.h"
+#include "documents/findform.h"
 #include "platform/CheckValue.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
@@ -67,7 +69,10 @@ void InitialiseApplication()
     StartupSteps::run(StartupSteps::ReferenceTrees);
     StartupSteps::run(StartupSteps::MainMenu);
     StartupSteps::run(StartupSteps::RemainingCombos);
-    StartupSteps::run(StartupSteps::SyntaxLanguages);
+    DefinePhpLanguage();
+    DefineJavaScriptLanguage();
+    DefineDelphiLanguage();
+    DefineBasicLanguage();
     StartupSteps::run(StartupSteps::FilePattern);
 
     // The settings; a missing file resets them and ends the program here.
@@ -97,6 +102,7 @@ void Main()
 {
     registerShellForms();
     registerShellCommands();
+    registerFindForms();
     registerDocumentForms();
     registerDocumentCommands();
 

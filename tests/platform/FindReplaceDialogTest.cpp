@@ -314,6 +314,10 @@ TEST_F(FindReplaceTest, FindNonAsciiText)
     EXPECT_EQ(selection(), Sel(16, 21));
 
     tick("matchCase", false);
+    setFind(QStringLiteral("KÖLN"));
+    press("findNext");
+    EXPECT_EQ(editor.SelText(), QStringLiteral("Köln"));
+    EXPECT_EQ(selection(), Sel(10, 14));
     setFind(QStringLiteral("αθήνα"));
     press("findNext");
     EXPECT_EQ(editor.SelText(), QStringLiteral("Αθήνα"));
