@@ -28,9 +28,10 @@ Openform::Openform(QWidget* parent) : QDialog(parent)
     auto* grid = new QGridLayout;
     outer->addLayout(grid, 1);
 
-    Drive1 = named(new DriveListBox(this), QStringLiteral("Drive1"));
-    Dir1 = named(new DirListBox(this), QStringLiteral("Dir1"));
-    File1 = named(new FileListBox(this), QStringLiteral("File1"));
+    const FilePicker picker = addFilePicker(grid, this);
+    Drive1 = picker.Drive1;
+    Dir1 = picker.Dir1;
+    File1 = picker.File1;
     Combo1 = named(new QComboBox(this), QStringLiteral("Combo1"));
     Combo1->addItems({QStringLiteral("*.*"), QStringLiteral("*.html"), QStringLiteral("*.htm"), QStringLiteral("*.txt"),
                       QStringLiteral("*.asp"), QStringLiteral("*.aspx"), QStringLiteral("*.php"), QStringLiteral("*.css"),
@@ -44,10 +45,6 @@ Openform::Openform(QWidget* parent) : QDialog(parent)
     Combo3->addItems({QStringLiteral("Web Split"), QStringLiteral("Web Page"), QStringLiteral("Notepad")});
     Combo3->setCurrentText(QStringLiteral("Web Page"));
 
-    grid->addWidget(new QLabel(QStringLiteral("Drive :"), this), 0, 0);
-    grid->addWidget(Drive1, 0, 1);
-    grid->addWidget(Dir1, 1, 0, 1, 2);
-    grid->addWidget(File1, 0, 2, 2, 2);
     grid->addWidget(new QLabel(QStringLiteral("Type :"), this), 2, 0);
     grid->addWidget(Combo1, 2, 1);
     grid->addWidget(new QLabel(QStringLiteral("Size :"), this), 2, 2);
@@ -56,8 +53,6 @@ Openform::Openform(QWidget* parent) : QDialog(parent)
     grid->addWidget(Location, 3, 1);
     grid->addWidget(new QLabel(QStringLiteral("Load as :"), this), 3, 2);
     grid->addWidget(Combo3, 3, 3);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
 
     auto* buttons = new QHBoxLayout;
     SmartNetButton3 = Look::faceButton(QStringLiteral("SmartNetButton3"), QStringLiteral("Show Desktop Directory"), this);
@@ -73,7 +68,6 @@ Openform::Openform(QWidget* parent) : QDialog(parent)
     outer->addLayout(buttons);
     Command1->setDefault(true);
 
-    chainFileControls(Drive1, Dir1, File1);
     connect(Combo1, &QComboBox::currentTextChanged, File1, &FileListBox::setPattern);
     connect(File1, &FileListBox::fileChosen, Location, &QLineEdit::setText);
     connect(File1, &FileListBox::fileActivated, this, Event([this](const QString& path) {

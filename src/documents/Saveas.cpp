@@ -42,18 +42,15 @@ Saveas::Saveas(QWidget* parent) : QDialog(parent)
     auto* grid = new QGridLayout;
     outer->addLayout(grid, 1);
 
-    Drive1 = named(new DriveListBox(this), QStringLiteral("Drive1"));
-    Dir1 = named(new DirListBox(this), QStringLiteral("Dir1"));
-    File1 = named(new FileListBox(this), QStringLiteral("File1"));
+    const FilePicker picker = addFilePicker(grid, this);
+    Drive1 = picker.Drive1;
+    Dir1 = picker.Dir1;
+    File1 = picker.File1;
     Location = named(new QLineEdit(this), QStringLiteral("Location"));
     filename = named(new QLineEdit(QStringLiteral("New_Page"), this), QStringLiteral("filename"));
     Combo1 = named(new QComboBox(this), QStringLiteral("Combo1"));
     Check3 = named(new QCheckBox(QStringLiteral("Unload page/notepad after save"), this), QStringLiteral("Check3"));
 
-    grid->addWidget(new QLabel(QStringLiteral("Drive :"), this), 0, 0);
-    grid->addWidget(Drive1, 0, 1);
-    grid->addWidget(Dir1, 1, 0, 1, 2);
-    grid->addWidget(File1, 0, 2, 2, 2);
     grid->addWidget(new QLabel(QStringLiteral("Location :"), this), 2, 0);
     grid->addWidget(Location, 2, 1, 1, 3);
     grid->addWidget(new QLabel(QStringLiteral("Save As :"), this), 3, 0);
@@ -61,8 +58,6 @@ Saveas::Saveas(QWidget* parent) : QDialog(parent)
     grid->addWidget(new QLabel(QStringLiteral("Type :"), this), 3, 2);
     grid->addWidget(Combo1, 3, 3);
     grid->addWidget(Check3, 4, 1, 1, 3);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
 
     auto* buttons = new QHBoxLayout;
     SmartNetButton3 = Look::faceButton(QStringLiteral("SmartNetButton3"), QStringLiteral("Show Desktop Directory"), this);
@@ -77,7 +72,6 @@ Saveas::Saveas(QWidget* parent) : QDialog(parent)
     outer->addLayout(buttons);
     Command1->setDefault(true);
 
-    chainFileControls(Drive1, Dir1, File1);
     connect(Dir1, &DirListBox::Change, this, [this](const QString& path) {
         Location->setText(path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/'));
     });

@@ -118,3 +118,22 @@ void chainFileControls(DriveListBox* drive, DirListBox* dir, FileListBox* files)
 
 QString desktopFolder() { return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation); }
 QString documentsFolder() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+
+#include <QGridLayout>
+#include <QLabel>
+
+FilePicker addFilePicker(QGridLayout* grid, QWidget* parent)
+{
+    FilePicker p{new DriveListBox(parent), new DirListBox(parent), new FileListBox(parent)};
+    p.Drive1->setObjectName(QStringLiteral("Drive1"));
+    p.Dir1->setObjectName(QStringLiteral("Dir1"));
+    p.File1->setObjectName(QStringLiteral("File1"));
+    grid->addWidget(new QLabel(QStringLiteral("Drive :"), parent), 0, 0);
+    grid->addWidget(p.Drive1, 0, 1);
+    grid->addWidget(p.Dir1, 1, 0, 1, 2);
+    grid->addWidget(p.File1, 0, 2, 2, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
+    chainFileControls(p.Drive1, p.Dir1, p.File1);
+    return p;
+}

@@ -60,3 +60,15 @@ void chainFileControls(DriveListBox* drive, DirListBox* dir, FileListBox* files)
 // The desktop's and the documents' folders of the user.
 QString desktopFolder();
 QString documentsFolder();
+
+class QGridLayout;
+
+// The drive, folder and file lists as the open and save windows lay them out: the drive list
+// with its label on top, the folders below it, the files beside both; created, named and
+// chained.
+struct FilePicker {
+    DriveListBox* Drive1;
+    DirListBox* Dir1;
+    FileListBox* File1;
+};
+FilePicker addFilePicker(QGridLayout* grid, QWidget* parent);

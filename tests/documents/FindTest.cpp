@@ -3,6 +3,7 @@
 
 #include "documents/findform.h"
 #include "documents/frmDocument.h"
+#include "documents/notepad.h"
 #include "documents/frmgoto.h"
 #include "platform/CodeMax.h"
 #include "platform/FindReplaceDialog.h"
@@ -18,27 +19,6 @@
 #include <QVBoxLayout>
 
 namespace {
-// A notepad as the contract sees it: Tag "Pad" and a visible rich text box, no editor.
-class PadWindow : public DocumentWindow {
-public:
-    PadWindow()
-    {
-        box = new RichTextBox(RichTextBox::Kind::Visible, this, this);
-        auto* l = new QVBoxLayout(this);
-        l->addWidget(box->widget());
-        setCaption(QStringLiteral("Notepad [ 1 ]"));
-    }
-    QString Tag() const override { return QStringLiteral("Pad"); }
-    RichTextBox* RichTextBox1() override { return box; }
-
-protected:
-    bool tracksChanges() const override { return false; }
-    bool QueryUnload() override { return true; }
-
-private:
-    RichTextBox* box;
-};
-
 const QString appTitle = QStringLiteral("Velloro 2002");
 const QString notFound = QStringLiteral("Word not found.");
 
@@ -54,9 +34,10 @@ protected:
         processEvents();
         return doc;
     }
-    PadWindow* newPad(const QString& text)
+    notepad* newPad(const QString& text)
     {
-        auto* pad = new PadWindow;
+        auto* pad = new notepad;
+        pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
         frmMain::instance()->addDocument(pad);
         pad->RichTextBox1()->setText(text);
         processEvents();
@@ -332,7 +313,7 @@ TEST_F(FindFormTest, ShowAdvancedOpensTheEditorsOwnDialog)
 
 TEST_F(FindFormTest, FindAndReplaceInANotepad)
 {
-    PadWindow* pad = newPad(QStringLiteral("Dear diary,\r\ntoday was sunny.\r\nSunny again."));
+    notepad* pad = newPad(QStringLiteral("Dear diary,\r\ntoday was sunny.\r\nSunny again."));
     showFind();
     setFind(QStringLiteral("sunny"));
     clickExpecting("Command1", QStringLiteral("Word found on line 2"));

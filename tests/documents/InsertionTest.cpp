@@ -4,6 +4,7 @@
 
 #include "documents/Insertion.h"
 #include "documents/frmDocument.h"
+#include "documents/notepad.h"
 #include "platform/CodeMax.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
@@ -16,27 +17,6 @@
 #include <QVBoxLayout>
 
 namespace {
-// A notepad as the contract sees it: Tag "Pad" and a visible rich text box, no editor.
-class PadWindow : public DocumentWindow {
-public:
-    PadWindow()
-    {
-        box = new RichTextBox(RichTextBox::Kind::Visible, this, this);
-        auto* l = new QVBoxLayout(this);
-        l->addWidget(box->widget());
-        setCaption(QStringLiteral("Notepad [ 1 ]"));
-    }
-    QString Tag() const override { return QStringLiteral("Pad"); }
-    RichTextBox* RichTextBox1() override { return box; }
-
-protected:
-    bool tracksChanges() const override { return false; }
-    bool QueryUnload() override { return true; }
-
-private:
-    RichTextBox* box;
-};
-
 // A wizard in the program's pattern: compose, refuse in a notepad, insert, close.
 class LineWizard : public QDialog {
 public:
@@ -79,9 +59,10 @@ protected:
         doc->CodeMax1()->setText(text);
         return doc;
     }
-    PadWindow* newPad(const QString& text)
+    notepad* newPad(const QString& text)
     {
-        auto* pad = new PadWindow;
+        auto* pad = new notepad;
+        pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
         frmMain::instance()->addDocument(pad);
         pad->RichTextBox1()->setText(text);
         return pad;
@@ -105,7 +86,7 @@ TEST_F(InsertionTest, WizardInsertsIntoTheActivePageAndCloses)
 
 TEST_F(InsertionTest, WizardRefusesInANotepadAndStaysOpen)
 {
-    PadWindow* pad = newPad(QStringLiteral("my notes"));
+    notepad* pad = newPad(QStringLiteral("my notes"));
     LineWizard wizard;
     wizard.show();
     prompts.answerMsgBox(Answer::OK);
@@ -121,7 +102,7 @@ TEST_F(InsertionTest, WizardRefusesInANotepadAndStaysOpen)
 TEST_F(InsertionTest, WizardFollowsTheActiveDocumentAtTheMomentOfTheClick)
 {
     frmDocument* first = newPage(QString());
-    PadWindow* pad = newPad(QString());
+    notepad* pad = newPad(QString());
     frmDocument* second = newPage(QString());
     LineWizard wizard;
     wizard.show();
@@ -155,7 +136,7 @@ TEST_F(InsertionTest, WithNoDocumentNothingHappensAndNothingIsSaid)
 
 TEST_F(InsertionTest, TagCommandsAreSilentInANotepad)
 {
-    PadWindow* pad = newPad(QStringLiteral("text"));
+    notepad* pad = newPad(QStringLiteral("text"));
     boldCommand();
     EXPECT_TRUE(prompts.prompts().isEmpty());
     EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("text"));
