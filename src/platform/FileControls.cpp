@@ -40,6 +40,11 @@ DirListBox::DirListBox(QWidget* parent) : QTreeView(parent)
         hideColumn(c);
     header()->hide();
     setPath(QDir::homePath());
+    // The model reads folders in the background: show the chosen one once its parents are in.
+    connect(model, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (current.startsWith(loaded))
+            reveal();
+    });
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) { setPath(model->filePath(index)); });
 }
 
@@ -49,16 +54,21 @@ void DirListBox::setPath(const QString& path)
     if (!info.isDir())
         return;
     const QString clean = QDir::cleanPath(info.absoluteFilePath());
-    const QModelIndex index = model->index(clean);
-    if (index.isValid()) {
-        setCurrentIndex(index);
-        scrollTo(index);
-        expand(index);
-    }
-    if (clean == current)
-        return;
+    const bool changed = clean != current;
     current = clean;
-    Q_EMIT Change(current);
+    reveal();
+    if (changed)
+        Q_EMIT Change(current);
+}
+
+void DirListBox::reveal()
+{
+    const QModelIndex index = model->index(current);
+    if (!index.isValid())
+        return;
+    setCurrentIndex(index);
+    scrollTo(index, QAbstractItemView::PositionAtCenter);
+    expand(index);
 }
 
 FileListBox::FileListBox(QWidget* parent) : QListWidget(parent)

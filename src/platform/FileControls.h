@@ -31,6 +31,7 @@ Q_SIGNALS:
     void Change(const QString& path);
 
 private:
+    void reveal();
     QFileSystemModel* model = nullptr;
     QString current;
 };

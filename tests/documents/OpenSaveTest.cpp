@@ -70,7 +70,7 @@ TEST_F(OpenSaveTest, OpenAsWebPage)
     EXPECT_EQ(open->File1->count(), 1);
     open->Location->setText(path);
     open->Combo2->setCurrentText(QStringLiteral("Maximized"));
-    open->show();
+    saveShot(open, QStringLiteral("openform"));
     open->Command1->click();
     DocumentWindow* doc = active();
     ASSERT_NE(qobject_cast<frmDocument*>(doc), nullptr);
@@ -138,6 +138,7 @@ TEST_F(OpenSaveTest, SaveAsWritesANewFileAndClearsTheChange)
     EXPECT_EQ(save->Location->text(), folder.path() + QStringLiteral("/"));
     save->filename->setText(QStringLiteral("index"));
     save->Combo1->setCurrentText(QStringLiteral(".htm"));
+    saveShot(save, QStringLiteral("saveas"));
     prompts.answerMsgBox(Answer::OK);
     save->Command1->click();
     const QString target = folder.file(QStringLiteral("index.htm"));
