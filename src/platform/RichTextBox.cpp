@@ -1,5 +1,6 @@
 #include "platform/RichTextBox.h"
 
+#include "platform/Rtf.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 #include "platform/Twips.h"
@@ -204,15 +205,20 @@ int RichTextBox::GetLineFromChar(int pos) const
 void RichTextBox::LoadFile(const QString& path)
 {
     bool ok = false;
-    const QString t = TextFiles::readText(path, &ok);
+    const QByteArray bytes = TextFiles::readBytes(path, &ok);
     if (!ok)
         throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("RichTextBox.LoadFile"));
-    setText(t);
+    // A file that is not rich text is shown as the plain text it is.
+    if (Rtf::read(bytes, doc)) {
+        setCursor(QTextCursor(doc));
+        return;
+    }
+    setText(TextFiles::decode(bytes));
 }
 
 void RichTextBox::SaveFile(const QString& path)
 {
-    if (!TextFiles::writeText(path, text()))
+    if (!TextFiles::writeBytes(path, Rtf::write(*doc)))
         throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("RichTextBox.SaveFile"));
 }
 

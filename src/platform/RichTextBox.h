@@ -55,7 +55,7 @@ public:
     int find(const QString& what);
     int GetLineFromChar(int pos) const;
 
-    // Files: plain text here; a rich format may replace it where the notepad needs one.
+    // Files: RTF on saving; loading reads RTF, and a file that is not RTF as plain text.
     void LoadFile(const QString& path);
     void SaveFile(const QString& path);
     void SelPrint(QPagedPaintDevice* device);

@@ -282,13 +282,15 @@ TEST_P(RichTextBoxTest, IndentsAreTwipsAndApplyToTheSelectedParagraphs)
     EXPECT_EQ(box->text(), QStringLiteral("first\r\nsecond\r\nthird"));
 }
 
-TEST_P(RichTextBoxTest, SaveAndLoadPlainText)
+TEST_P(RichTextBoxTest, SavesRichTextAndLoadsRichOrPlainText)
 {
-    const QString path = dir.filePath(QStringLiteral("note.txt"));
+    const QString path = dir.filePath(QStringLiteral("note.rtf"));
     const QString text = QStringLiteral("Dear diary\r\ncaf\u00E9 \u20AC\r\n\r\nend");
     box->setText(text);
     box->SaveFile(path);
-    EXPECT_EQ(readFile(path), QByteArray("Dear diary\r\ncaf\xC3\xA9 \xE2\x82\xAC\r\n\r\nend"));
+    const QByteArray saved = readFile(path);
+    EXPECT_TRUE(saved.startsWith("{\\rtf1")) << saved.constData();
+    EXPECT_TRUE(saved.contains("\\u8364?")) << "non-ASCII text is written as \\u escapes";
 
     RichTextBox other(GetParam(), &window, &window);
     other.LoadFile(path);
@@ -297,7 +299,17 @@ TEST_P(RichTextBoxTest, SaveAndLoadPlainText)
     // Saving again replaces the file as a whole.
     box->setText(QStringLiteral("short"));
     box->SaveFile(path);
-    EXPECT_EQ(readFile(path), QByteArray("short"));
+    other.LoadFile(path);
+    EXPECT_EQ(other.text(), QStringLiteral("short"));
+
+    // A file that is not rich text loads as plain text.
+    const QString plain = dir.filePath(QStringLiteral("note.txt"));
+    QFile f(plain);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("plain\r\ncaf\xC3\xA9");
+    f.close();
+    other.LoadFile(plain);
+    EXPECT_EQ(other.text(), QStringLiteral("plain\r\ncaf\u00E9"));
 }
 
 TEST_P(RichTextBoxTest, FileErrors)
