@@ -31,6 +31,7 @@ test: build
 bench: build
 	$(BUILD)/bench/bench_settings
 	$(BUILD)/bench/bench_colouring
+	$(BUILD)/bench/bench_report
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing
 	bench/startup.sh $(BUILD)/velloro
 

@@ -7,6 +7,9 @@
 #include "documents/SyntaxLanguages.h"
 #include "platform/CodeMax.h"
 
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -135,6 +138,45 @@ static void BM_ColourFirstScreenOfHtml(benchmark::State& state)
     }
 }
 BENCHMARK(BM_ColourFirstScreenOfHtml)->Arg(50)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// The user jumps to the end of a freshly opened big page and types there, while the page is
+// still being coloured in the background: how long each of the two takes to show.
+static void BM_CtrlEndAndTypeWhileColouring(benchmark::State& state)
+{
+    const QString text = htmlPage(static_cast<int>(state.range(0)));
+    if (text.isEmpty()) {
+        state.SkipWithError("no page: gen_html.py not found (set ANCHORS)");
+        return;
+    }
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("page.html"));
+    {
+        QFile f(path);
+        f.open(QIODevice::WriteOnly);
+        f.write(text.toUtf8());
+    }
+    double jump = 0, type = 0;
+    for (auto _ : state) {
+        CodeMax editor;
+        editor.resize(1000, 700);
+        editor.setLanguage(QStringLiteral("HTML"));
+        editor.show();
+        editor.OpenFile(path);
+        QCoreApplication::processEvents();  // the first screen
+        QElapsedTimer t;
+        t.start();
+        editor.SendScintilla(QsciScintillaBase::SCI_DOCUMENTEND);
+        editor.repaint();
+        jump = t.elapsed();
+        t.restart();
+        editor.SendScintilla(QsciScintillaBase::SCI_ADDTEXT, 1UL, "x");
+        editor.repaint();
+        type = t.elapsed();
+    }
+    state.counters["ctrl_end_ms"] = jump;
+    state.counters["type_at_end_ms"] = type;
+}
+BENCHMARK(BM_CtrlEndAndTypeWhileColouring)->Arg(50)->Unit(benchmark::kMillisecond)->Iterations(1)->UseRealTime();
 
 int main(int argc, char** argv)
 {

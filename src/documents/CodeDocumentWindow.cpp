@@ -96,6 +96,7 @@ const QString formFieldsTail =
 }
 
 std::function<void(const QString&)> CodeDocumentWindow::uploadToFtp;
+std::function<void(const QString&)> CodeDocumentWindow::openReport;
 
 CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
 {
@@ -223,7 +224,11 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
         list.append({"Enlarge Browser Text", QStyle::SP_ArrowUp, [this] { browser->zoomIn(); }});
         list.append({"Decrease Browser Text", QStyle::SP_ArrowDown, [this] { browser->zoomOut(); }});
     }
-    list.append({"", QStyle::SP_FileDialogDetailedView, [] { showForm(QStringLiteral("frmReport")); }});
+    list.append({"", QStyle::SP_FileDialogDetailedView, [this] {
+        if (openReport)
+            openReport(CodeMax1()->text());
+        showForm(QStringLiteral("frmReport"));
+    }});
     int n = 0;
     for (const Button& b : list) {
         auto* button = new QToolButton(bar);
@@ -244,7 +249,7 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
     const int last = n;
     buttons.value(QStringLiteral("SmartNetButton3"))->setEnabled(Forms::hasFactory(QStringLiteral("FullPreview")));
     buttons.value(QStringLiteral("SmartNetButton5"))->setEnabled(frmMain::hasCommand(QStringLiteral("Email File")));
-    buttons.value(QStringLiteral("SmartNetButton%1").arg(last))->setEnabled(Forms::hasFactory(QStringLiteral("frmReport")));
+    buttons.value(QStringLiteral("SmartNetButton%1").arg(last))->setEnabled(Forms::hasFactory(QStringLiteral("frmReport")) && openReport);
     row->addSpacing(12);
     auto* image = new QLabel(bar);
     image->setObjectName(QStringLiteral("Image1"));

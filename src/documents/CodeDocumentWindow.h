@@ -37,6 +37,8 @@ public:
     // The upload window's intake of a saved page; set by the upload window, unset while the
     // build has none (the button then only checks that the page is saved).
     static std::function<void(const QString& path)> uploadToFtp;
+    // The report window's intake of a page's text; set when the build has that window.
+    static std::function<void(const QString& text)> openReport;
 
     // The preview bar's buttons by their names.
     QToolButton* previewButton(const QString& name) const;

@@ -9,6 +9,7 @@
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
+#include "report/frmReport.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
 #include "shell/Options.h"
@@ -105,6 +106,7 @@ void Main()
     registerFindForms();
     registerDocumentForms();
     registerDocumentCommands();
+    registerReportForms();
 
     try {
         auto* splash = form<frmSplash>();
