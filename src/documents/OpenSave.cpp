@@ -21,7 +21,7 @@
 
 namespace {
 // The main window's own counters for the windows its file panel and commands make.
-WindowCounter panelPages, panelNotepads, panelSplits, quickNotepads;
+WindowCounter panelPages, panelNotepads, panelSplits, quickNotepads, ownTemplates;
 
 DocumentWindow* makeWindow(LoadAs how)
 {
@@ -120,6 +120,11 @@ void OpenAsSplit(const QString& path)
     auto* doc = static_cast<frmsplit*>(openWith(path, LoadAs::Split, QStringLiteral("HTML Split [ %1 ]").arg(panelSplits.next())));
     frmMain::instance()->setWindowTitle(QStringLiteral("Velloro :: [ ") + path + QStringLiteral(" ]"));
     doc->SplitRefresh();
+}
+
+DocumentWindow* OpenOwnTemplate(const QString& path)
+{
+    return openWith(path, LoadAs::Page, QStringLiteral("Document %1").arg(ownTemplates.next()));
 }
 
 DocumentWindow* NewNotepad()

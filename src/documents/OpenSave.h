@@ -17,6 +17,9 @@ void OpenAsPage(const QString& path);
 void OpenAsNotepad(const QString& path);
 void OpenAsSplit(const QString& path);
 
+// "Load Own Templates": a new web page window with the chosen template file.
+DocumentWindow* OpenOwnTemplate(const QString& path);
+
 // A new empty notepad ("Quick Notepad").
 DocumentWindow* NewNotepad();
 

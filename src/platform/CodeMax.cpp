@@ -149,7 +149,13 @@ void CodeMax::setMacroRecordSlot(int slot)
     recordSlot = slot;
 }
 
-bool CodeMax::hasMacro(int slot) const { return !macros.value(slot).isEmpty(); }
+QHash<int, QString>& CodeMax::macros()
+{
+    static QHash<int, QString> store;
+    return store;
+}
+
+bool CodeMax::hasMacro(int slot) const { return !macros().value(slot).isEmpty(); }
 
 void CodeMax::toggleRecording()
 {
@@ -159,14 +165,14 @@ void CodeMax::toggleRecording()
         return;
     }
     recording->endRecording();
-    macros.insert(recordSlot, recording->save());
+    macros().insert(recordSlot, recording->save());
     delete recording;
     recording = nullptr;
 }
 
 void CodeMax::playMacro(int slot)
 {
-    const QString m = macros.value(slot);
+    const QString m = macros().value(slot);
     if (m.isEmpty())
         return;
     QsciMacro macro(m, this);

@@ -53,6 +53,8 @@ public:
     void setLineNumbering(bool on);
     void setDisplayWhitespace(bool on);
     bool LineNumbering() const { return lineNumbers; }
+    bool DisplayLeftMargin() const { return marginWidth(1) > 0; }
+    bool DisplayWhitespace() const { return whitespaceVisibility() != WsInvisible; }
     void setColour(int item, int platformColour);
     int HighlightedLine() const;
     void setHighlightedLine(int line);
@@ -80,7 +82,9 @@ private:
     bool lineNumbers = false;
     int recordSlot = 1;
     QsciMacro* recording = nullptr;
-    QHash<int, QString> macros;  // slot -> recorded macro
+    // slot -> recorded macro; one store for every editor, so a macro recorded in one page
+    // plays in any other.
+    static QHash<int, QString>& macros();
     int highlighted = -1;
     qint64 characters = 0;
 };

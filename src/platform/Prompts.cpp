@@ -10,6 +10,8 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -119,6 +121,13 @@ bool QtPrompts::print(QPrinter& printer, bool offerSelection)
     QPrintDialog dialog(&printer, dialogParent());
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, offerSelection);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool QtPrompts::pageSetup(QPrinter& printer, const QString& title)
+{
+    QPageSetupDialog dialog(&printer, dialogParent());
+    dialog.setWindowTitle(title);
     return dialog.exec() == QDialog::Accepted;
 }
 

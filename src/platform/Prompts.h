@@ -31,6 +31,8 @@ public:
     // The print dialog on a printer; offerSelection lets the user print the selection only.
     // False when cancelled.
     virtual bool print(QPrinter& printer, bool offerSelection) = 0;
+    // The page setup dialog on a printer; false when cancelled.
+    virtual bool pageSetup(QPrinter& printer, const QString& title) = 0;
 };
 
 // The handler in force; the real one (Qt dialogs) unless a test has installed another.
@@ -52,4 +54,5 @@ public:
     std::optional<int> colour(int initial) override;
     std::optional<QFont> font(const QFont& initial) override;
     bool print(QPrinter& printer, bool offerSelection) override;
+    bool pageSetup(QPrinter& printer, const QString& title) override;
 };

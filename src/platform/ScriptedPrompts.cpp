@@ -60,6 +60,12 @@ ScriptedPrompts& ScriptedPrompts::answerPrint(const QString& pdfPath)
     return *this;
 }
 
+ScriptedPrompts& ScriptedPrompts::answerPageSetup(bool accepted)
+{
+    queue.append({QStringLiteral("PageSetup"), accepted});
+    return *this;
+}
+
 QVariant ScriptedPrompts::take(const Prompt& p, const QVariant& fallback)
 {
     seen.append(p);
@@ -122,4 +128,9 @@ bool ScriptedPrompts::print(QPrinter& printer, bool offerSelection)
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(pdf);
     return true;
+}
+
+bool ScriptedPrompts::pageSetup(QPrinter&, const QString& title)
+{
+    return take({QStringLiteral("PageSetup"), QString(), 0, title}, false).toBool();
 }

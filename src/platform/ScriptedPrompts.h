@@ -11,7 +11,7 @@
 class ScriptedPrompts : public PromptHandler {
 public:
     struct Prompt {
-        QString kind;  // "MsgBox", "InputBox", "OpenFile", "SaveFile", "Folder", "Colour", "Font", "Print"
+        QString kind;  // "MsgBox", "InputBox", "OpenFile", "SaveFile", "Folder", "Colour", "Font", "Print", "PageSetup"
         QString text;
         int style = 0;
         QString title;
@@ -33,6 +33,7 @@ public:
     // The print dialog prints into this PDF file; empty = cancelled. The prompt's style records
     // whether the selection was offered (1) or not (0).
     ScriptedPrompts& answerPrint(const QString& pdfPath);
+    ScriptedPrompts& answerPageSetup(bool accepted);
 
     const QList<Prompt>& prompts() const { return seen; }
     const Prompt& last() const;
@@ -50,6 +51,7 @@ public:
     std::optional<int> colour(int initial) override;
     std::optional<QFont> font(const QFont& initial) override;
     bool print(QPrinter& printer, bool offerSelection) override;
+    bool pageSetup(QPrinter& printer, const QString& title) override;
 
 private:
     struct Queued { QString kind; QVariant value; };

@@ -12,7 +12,9 @@
 #include "report/frmReport.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
+#include "shell/MenuCommands.h"
 #include "shell/Options.h"
+#include "platform/FileControls.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -20,6 +22,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFontDatabase>
 #include <QLabel>
 
 namespace {
@@ -47,6 +51,22 @@ void registerShellCommands()
 
 void fillMainLists()
 {
+    frmMain* main = frmMain::instance();
+    main->Combo1->clear();
+    main->Combo1->addItems({QStringLiteral("1  (8pt)"), QStringLiteral("2  (10pt)"), QStringLiteral("3  (12pt)"),
+                            QStringLiteral("4  (14pt)"), QStringLiteral("5  (18pt)"), QStringLiteral("6  (24pt)"),
+                            QStringLiteral("7  (36pt)")});
+    main->Combo3->clear();
+    main->Combo3->addItems({QStringLiteral("[*.*]  All Files"), QStringLiteral("[*.html]  .html Files"),
+                            QStringLiteral("[*.htm]  .htm Files"), QStringLiteral("[*.txt]  Text Files"),
+                            QStringLiteral("[*.css]  Style Sheet's"), QStringLiteral("[*.tmpl]  Velloro Template's"),
+                            QStringLiteral("[*.VB]  Visual Basic Files"), QStringLiteral("[*.ASP]  ASP Files"),
+                            QStringLiteral("[*.ASPX]  ASP.NET Files"), QStringLiteral("[*.C]  C Files"),
+                            QStringLiteral("[*.C++]  C++ Files"), QStringLiteral("[*.JAVA]  JAVA Files"),
+                            QStringLiteral("[*.PHP]  PHP Files"), QStringLiteral("[*.Perl]  Perl Files"),
+                            QStringLiteral("[*.VBscript]  VBscript Files")});
+    main->openchoice->clear();
+    main->openchoice->addItems({QStringLiteral("HTML"), QStringLiteral("Notepad"), QStringLiteral("Split HTML")});
     Options* options = form<Options>();
     options->SSTART->clear();
     options->SSTART->addItems({QStringLiteral("Maximized"), QStringLiteral("Minimized"), QStringLiteral("Normal")});
@@ -65,15 +85,22 @@ void showForm(const QString& name)
 
 void InitialiseApplication()
 {
+    frmMain* main = frmMain::instance();
     fillMainLists();
+    main->showPanel(main->frfiles);
     StartupSteps::run(StartupSteps::Panels);
     StartupSteps::run(StartupSteps::ReferenceTrees);
+    main->buildMenu();
     StartupSteps::run(StartupSteps::MainMenu);
+    main->Combo4->clear();
+    for (int level = 1; level <= 6; ++level)
+        main->Combo4->addItem(QStringLiteral("Heading %1").arg(level));
     StartupSteps::run(StartupSteps::RemainingCombos);
     DefinePhpLanguage();
     DefineJavaScriptLanguage();
     DefineDelphiLanguage();
     DefineBasicLanguage();
+    main->File1->setPattern(QStringLiteral("*.*"));
     StartupSteps::run(StartupSteps::FilePattern);
 
     // The settings; a missing file resets them and ends the program here.
@@ -87,7 +114,6 @@ void InitialiseApplication()
     setCheckValue(startup->CSS, checkValue(options->CSS));
     setCheckValue(startup->Check1, checkValue(options->LNEW));
 
-    frmMain* main = frmMain::instance();
     main->Tooltipframe->setVisible(checkValue(options->ToolTip) == 1);
 
     if (checkValue(options->SFORM) == 1) {
@@ -95,7 +121,13 @@ void InitialiseApplication()
         ApplyStartWindowState();
     }
 
+    main->Combo2->clear();
+    main->Combo2->addItems(QFontDatabase::families());
     StartupSteps::run(StartupSteps::FontList);
+    // The folder tree starts in the user's own folder; its choice fills the list.
+    main->PicBrowse->setPath(QDir::homePath());
+    main->File1->setPath(main->PicBrowse->Path());
+    main->fillFileList();
     StartupSteps::run(StartupSteps::FileList);
 }
 
@@ -107,6 +139,8 @@ void Main()
     registerDocumentForms();
     registerDocumentCommands();
     registerReportForms();
+    // Last: the menu's own branches fill in what the windows above have not claimed.
+    registerMenuCommands();
 
     try {
         auto* splash = form<frmSplash>();

@@ -6,7 +6,10 @@
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "shell/ColourSwatch.h"
+#include "shell/Main.h"
 #include "shell/Options.h"
+#include "shell/frmMain.h"
+#include "platform/Forms.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,6 +20,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,26 +28,36 @@ using Look::named;
 
 
 
-// A task of the list: a label that acts on a click.
+// A task of the list: a label that acts on a click and gives its hint while the mouse moves
+// over it.
 class TaskLabel : public QLabel {
 public:
-    TaskLabel(const QString& name, const QString& caption, std::function<void()> onClick, QWidget* parent)
-        : QLabel(caption, parent), click(std::move(onClick))
+    TaskLabel(const QString& name, const QString& caption, std::function<void()> onClick,
+              std::function<void()> onHover, QWidget* parent)
+        : QLabel(caption, parent), click(std::move(onClick)), hover(std::move(onHover))
     {
         setObjectName(name);
         setCursor(Qt::PointingHandCursor);
-        setStyleSheet(QStringLiteral("QLabel { color: rgb(52, 129, 211); padding: 2px 12px; } QLabel:hover { text-decoration: underline; }"));
+        setMouseTracking(true);
+        setStyleSheet(QStringLiteral("QLabel { color: rgb(52, 129, 211); padding: 2px 4px; } QLabel:hover { text-decoration: underline; } QLabel:disabled { color: gray; }"));
     }
 
 protected:
     void mouseReleaseEvent(QMouseEvent* e) override
     {
-        if (e->button() == Qt::LeftButton && click)
+        if (e->button() == Qt::LeftButton && click && isEnabled())
             click();
+    }
+    void mouseMoveEvent(QMouseEvent* e) override
+    {
+        if (hover)
+            hover();
+        e->accept();  // the frame underneath would clear the hint again
     }
 
 private:
     std::function<void()> click;
+    std::function<void()> hover;
 };
 }
 
@@ -72,20 +86,74 @@ Startup::Startup(QWidget* parent) : QDialog(parent)
 void Startup::buildTaskList()
 {
     frstartup = Look::headedFrame(QStringLiteral("frstartup"), QStringLiteral("Welcome to Velloro 2002"), this);
+    frstartup->setMouseTracking(true);
+    frstartup->installEventFilter(this);
     auto* v = static_cast<QVBoxLayout*>(frstartup->layout());
-    Label3 = named(new QLabel(QStringLiteral("Start A New:"), frstartup), QStringLiteral("Label3"));
-    Label3->setStyleSheet(QStringLiteral("font-weight: bold;"));
-    Label4 = new TaskLabel(QStringLiteral("Label4"), QStringLiteral("Create A Single  Web Page"),
-                           [this] { showFrame(frsingle); }, frstartup);
-    Label5 = new TaskLabel(QStringLiteral("Label5"), QStringLiteral("Create A Framed Web Site"),
-                           [this] { showFrame(frframe); }, frstartup);
-    v->addWidget(Label3);
-    v->addWidget(Label4);
-    v->addWidget(Label5);
+    auto heading = [this, v](const char* name, const char* caption) {
+        auto* l = named(new QLabel(QString::fromUtf8(caption), frstartup), QString::fromLatin1(name));
+        l->setStyleSheet(QStringLiteral("font-weight: bold; margin-top: 6px;"));
+        v->addWidget(l);
+        return l;
+    };
+    // A task: its marker, its label, its hint and its command; a task whose window this build
+    // lacks stays grey.
+    auto task = [this, v](const char* name, const char* caption, const char* hintText, const QString& formName,
+                          std::function<void()> command) {
+        auto* row = new QHBoxLayout;
+        auto* marker = named(new QLabel(QStringLiteral("\u25B6"), frstartup), QStringLiteral("Marker") + QString::fromLatin1(name));
+        marker->setStyleSheet(QStringLiteral("color: rgb(52, 129, 211);"));
+        marker->setFixedWidth(14);
+        marker->setVisible(false);
+        const QString hint = QString::fromUtf8(hintText);
+        auto* label = new TaskLabel(QString::fromLatin1(name), QString::fromUtf8(caption), std::move(command),
+                                    [this, marker, hint] { showHint(marker, hint); }, frstartup);
+        if (!formName.isEmpty())
+            label->setEnabled(Forms::hasFactory(formName));
+        markers.append(marker);
+        row->addSpacing(8);
+        row->addWidget(marker);
+        row->addWidget(label, 1);
+        v->addLayout(row);
+        return label;
+    };
+    auto showAndHide = [this](const QString& name) {
+        return [this, name] {
+            showForm(name);
+            hide();
+        };
+    };
+    Label3 = heading("Label3", "Start A New:");
+    Label4 = task("Label4", "Create A Single  Web Page", "Create a quick standard html page from quick options.", {},
+                  [this] { showFrame(frsingle); });
+    Label5 = task("Label5", "Create A Framed Web Site",
+                  "Create a framed website from 2 pre-set options with colour and size options.", {},
+                  [this] { showFrame(frframe); });
+    task("Label6", "Create A Blank Notepad", "Simply create a standard Notepad document.", {}, [this] {
+        frmMain::instance()->MenuClick(QStringLiteral("Quick Notepad"));
+        hide();
+    });
+    task("Label31", "Create A New Site Project",
+         "Create a new project from 2 pre-set designs, business and fun. Simply select the pre-made pages you want, then add more yourself.",
+         QStringLiteral("SiteManagment"), showAndHide(QStringLiteral("SiteManagment")));
+    heading("Label32", "Open A Pre-set:");
+    task("Label28", "Open A Pre-Made Template", "Open a Velloro 2002 pre-made template.", QStringLiteral("Templates"),
+         showAndHide(QStringLiteral("Templates")));
+    task("Label29", "Open An Existing Document", "Open an existing document on your pc.", QStringLiteral("Openform"),
+         showAndHide(QStringLiteral("Openform")));
+    task("Label26", "Open A Document From The Web", "Open/View the source of a website via the html address.",
+         QStringLiteral("sourcepage"), showAndHide(QStringLiteral("sourcepage")));
+    heading("Label33", "Web Options:");
+    task("Label34", "Upload Via FTP", "Upload multiple files to your specified ftp server, now includes progress bars.",
+         QStringLiteral("ftpnormal"), showAndHide(QStringLiteral("ftpnormal")));
+    heading("Label35", "Help :");
+    task("Label36", "Velloro Help", "Read how to use Velloro 2002.", QStringLiteral("HelpSystem"),
+         showAndHide(QStringLiteral("HelpSystem")));
     v->addStretch();
     ToolTip = named(new QLabel(frstartup), QStringLiteral("ToolTip"));
     ToolTip->setWordWrap(true);
-    ToolTip->setMinimumHeight(40);
+    ToolTip->setMinimumHeight(44);
+    ToolTip->setMargin(4);
+    ToolTip->setAutoFillBackground(true);
     v->addWidget(ToolTip);
     Check1 = named(new QCheckBox(QStringLiteral("Load at Startup ?"), frstartup), QStringLiteral("Check1"));
     // Ticked by design: the window shows at load unless the setting clears the tick.
@@ -93,6 +161,30 @@ void Startup::buildTaskList()
     v->addWidget(Check1);
     // The click handler runs on every change of the value, by the user or by code.
     connect(Check1, &QCheckBox::stateChanged, this, Event([this] { Check1_Click(); }));
+}
+
+void Startup::showHint(QLabel* marker, const QString& text)
+{
+    for (QLabel* m : markers)
+        m->setVisible(m == marker);
+    QPalette p = ToolTip->palette();
+    p.setColor(QPalette::Window, QColor(255, 255, 192));
+    ToolTip->setPalette(p);
+    ToolTip->setText(text);
+}
+
+void Startup::clearHints()
+{
+    for (QLabel* m : markers)
+        m->setVisible(false);
+    ToolTip->setText(QString());
+}
+
+bool Startup::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == frstartup && event->type() == QEvent::MouseMove)
+        clearHints();
+    return QDialog::eventFilter(watched, event);
 }
 
 void Startup::buildSinglePage()
@@ -237,7 +329,25 @@ void Startup::buildFramePage()
     colourRow->addWidget(Shape5);
     colourRow->addWidget(Command14);
     form->addRow(QStringLiteral("Frames Color"), colourRow);
-    v->addLayout(form);
+    // The two templates stand on the left: columns and rows.
+    Toolbar1 = named(new QToolBar(frframe), QStringLiteral("Toolbar1"));
+    Toolbar1->setOrientation(Qt::Vertical);
+    Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    Toolbar1->setIconSize(QSize(32, 32));
+    const std::pair<const char*, const char*> templates[] = {{"frame1", "Columns"}, {"frame2", "Rows"}};
+    for (const auto& [key, caption] : templates) {
+        QAction* a = Toolbar1->addAction(Look::menuIcon(QString::fromLatin1(key)), QString::fromLatin1(caption));
+        a->setObjectName(QString::fromLatin1(key));
+        const QString k = QString::fromLatin1(key);
+        connect(a, &QAction::triggered, this, Event([k] {
+            if (frameGenerator)
+                frameGenerator(k);
+        }));
+    }
+    auto* body = new QHBoxLayout;
+    body->addWidget(Toolbar1);
+    body->addLayout(form, 1);
+    v->addLayout(body);
     v->addStretch();
     auto* nav = new QHBoxLayout;
     Command16 = Look::faceButton(QStringLiteral("Command16"), QStringLiteral("Previous"), frframe);
@@ -271,8 +381,12 @@ void Startup::Form_Load()
     }
 }
 
+std::function<void(const QString&)> Startup::frameGenerator;
+
 void Startup::showEvent(QShowEvent* e)
 {
+    for (QAction* a : Toolbar1->actions())
+        a->setEnabled(bool(frameGenerator));
     // The window always comes up on the task list, however it was left.
     showFrame(frstartup);
     QDialog::showEvent(e);

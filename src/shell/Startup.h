@@ -2,6 +2,7 @@
 #include "platform/Forms.h"
 
 #include <QDialog>
+#include <functional>
 
 class ColourSwatch;
 class QCheckBox;
@@ -10,6 +11,7 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QToolBar;
 
 // The start screen: the task list, and the fields the page generator reads whether the
 // window is on screen or not.
@@ -46,8 +48,20 @@ public:
     ColourSwatch* Shape5 = nullptr;
     QPushButton *Command14 = nullptr, *Command16 = nullptr, *Command11 = nullptr, *SmartNetButton1 = nullptr;
 
+    // The hint of a task: its marker shows and the hint box takes the text; moving over the
+    // frame itself clears both.
+    void showHint(QLabel* marker, const QString& text);
+    void clearHints();
+    QList<QLabel*> markers;
+
+    // The frame-set generators by toolbar key ("frame1" columns, "frame2" rows); set by the
+    // site generator. Without them the toolbar's buttons stay disabled.
+    static std::function<void(const QString& key)> frameGenerator;
+    QToolBar* Toolbar1 = nullptr;
+
 protected:
     void showEvent(QShowEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildTaskList();

@@ -7,9 +7,20 @@
 #include "platform/Twips.h"
 #include "shell/AboutFORM.h"
 #include "shell/Main.h"
+#include "shell/MainMenu.h"
 #include "shell/Options.h"
+#include "platform/FileControls.h"
+#include "platform/RuntimeError.h"
+#include "platform/StartupSteps.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QMenuBar>
+#include <QStackedLayout>
+#include <QToolBar>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -48,6 +59,11 @@ frmMain::~frmMain()
     // The area announces the loss of its windows while it is destroyed; this window is no
     // longer one to hear it by then.
     MDIClient->disconnect(this);
+    // The hinted controls die with the window's children, after its own members.
+    for (QObject* o : hints.keys()) {
+        o->removeEventFilter(this);
+        disconnect(o, nullptr, this, nullptr);
+    }
 }
 
 frmMain* frmMain::instance() { return form<frmMain>(); }
@@ -68,7 +84,7 @@ void frmMain::buildLayout()
     Sideholder->setFrameShape(QFrame::StyledPanel);
     auto* sideLayout = new QHBoxLayout(Sideholder);
     sideLayout->setContentsMargins(0, 0, 0, 0);
-    sideLayout->addStretch(1);
+    sideLayout->setSpacing(0);
     LeftMoveIn = new QFrame(Sideholder);
     LeftMoveIn->setObjectName(QStringLiteral("LeftMoveIn"));
     LeftMoveIn->setStyleSheet(QStringLiteral("QFrame#LeftMoveIn { background-color: rgb(52, 129, 211); }"));
@@ -81,6 +97,7 @@ void frmMain::buildLayout()
     moveLayout->addWidget(LeftMenuIn);
     moveLayout->addStretch();
     sideLayout->addWidget(LeftMoveIn);
+    buildLeftPane(Sideholder);
     row->addWidget(Sideholder);
 
     MDIClient = new QMdiArea(central);
@@ -101,6 +118,7 @@ void frmMain::buildLayout()
     rightLayout->addWidget(RightMenuIn, 0, Qt::AlignHCenter);
     rightLayout->addStretch();
     row->addWidget(RightHolder);
+    buildRightBar();
 
     Tooltipframe = new QFrame(central);
     Tooltipframe->setObjectName(QStringLiteral("Tooltipframe"));
@@ -135,6 +153,8 @@ void frmMain::buildLayout()
     panels[1]->setText(QStringLiteral("Lines: "));
     panels[2]->setText(QStringLiteral("Chr: "));
     setStatusBar(StatusBar1);
+    buildButtonBars();
+    hint(Tooltipframe, QStringLiteral("Hover Over various menu's  for a description ....\n(BETA 1 Version)"));
 
     foldSide(false);
     foldRight(false);
@@ -216,8 +236,82 @@ bool frmMain::hasCommand(const QString& key) { return commands().contains(key); 
 void frmMain::MenuClick(const QString& key)
 {
     const Command c = commands().value(key);
-    if (c)
+    if (!c || !menuKeyRuns(key))
+        return;
+    // The handler's error path ends a command quietly (no document, a notepad where a code
+    // editor is wanted); saving says its own words.
+    if (key == QLatin1String("Save") || key == QLatin1String("Save As")) {
         c();
+        return;
+    }
+    try {
+        c();
+    } catch (const RuntimeError&) {
+    }
+}
+
+void frmMain::buildMenu()
+{
+    if (SmartMenuXP1)
+        SmartMenuXP1->deleteLater();
+    // The bar sits in a holder: a maximised document then keeps its own title bar, and the
+    // main caption stays the one the program sets (no merged "- [child]" caption).
+    auto* holder = new QWidget(this);
+    auto* layout = new QHBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    SmartMenuXP1 = buildMainMenu(holder);
+    layout->addWidget(SmartMenuXP1);
+    setMenuWidget(holder);
+}
+
+void frmMain::Arrange(int how)
+{
+    const QList<QMdiSubWindow*> windows = MDIClient->subWindowList(QMdiArea::StackingOrder);
+    if (how == 0) {
+        MDIClient->cascadeSubWindows();
+        return;
+    }
+    QList<QMdiSubWindow*> open, minimised;
+    for (QMdiSubWindow* w : windows)
+        (w->isMinimized() ? minimised : open).append(w);
+    const QRect area = MDIClient->viewport()->rect();
+    if (how == 1 || how == 2) {
+        // Horizontal tiles lie one above the other, vertical ones side by side.
+        const int n = int(open.size());
+        for (int i = 0; i < n; ++i) {
+            QMdiSubWindow* w = open[i];
+            w->showNormal();
+            if (how == 1) {
+                const int h = area.height() / n;
+                w->setGeometry(0, i * h, area.width(), i == n - 1 ? area.height() - i * h : h);
+            } else {
+                const int wd = area.width() / n;
+                w->setGeometry(i * wd, 0, i == n - 1 ? area.width() - i * wd : wd, area.height());
+            }
+        }
+        return;
+    }
+    // The minimised windows line up along the bottom edge.
+    int x = 0;
+    for (QMdiSubWindow* w : minimised) {
+        const QSize s = w->size();
+        w->move(x, area.height() - s.height());
+        x += s.width();
+    }
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Enter && hints.contains(watched))
+        Tooltiptext->setText(hints.value(watched));
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::hint(QWidget* w, const QString& line)
+{
+    hints.insert(w, line);
+    w->installEventFilter(this);
+    connect(w, &QObject::destroyed, this, [this](QObject* o) { hints.remove(o); });
 }
 
 void frmMain::setStatusText(int panel, const QString& text)
@@ -252,6 +346,9 @@ void frmMain::setRightHolderWidth(int twips)
 void frmMain::foldSide(bool folded)
 {
     setSideholderWidth(folded ? sideFolded : sideOpen);
+    // Folded, the holder keeps only its move-in strip.
+    LeftTool->setVisible(!folded);
+    panelHost->setVisible(!folded);
     const QString caption = folded ? QStringLiteral("Move Menu Out") : QStringLiteral("Move Menu In");
     LeftMenuIn->setText(caption);
     LeftMenuIn->setToolTip(caption);

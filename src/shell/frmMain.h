@@ -5,13 +5,26 @@
 #include <QMainWindow>
 #include <functional>
 
+class DirListBox;
 class DocumentWindow;
+class FileListBox;
+class QComboBox;
 class QFrame;
 class QLabel;
+class QLineEdit;
 class QMdiArea;
 class QMdiSubWindow;
+class QMenuBar;
 class QStatusBar;
+class QToolBar;
 class QToolButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+// The file panel's size column: up to 1000 bytes in bytes, above that in whole kilobytes.
+QString fileSizeText(qint64 bytes);
+// The pattern of a file type entry: the text between its brackets ("[*.htm]  .htm Files").
+QString patternOf(const QString& fileTypeEntry);
 
 // The main window: the parent of every document window and the source of the commands.
 class frmMain : public QMainWindow, public Form {
@@ -59,6 +72,35 @@ public:
     void LeftMenuIn_Click();
     void RightMenuIn_Click();
 
+    // The left pane: exactly one of its five panels is visible.
+    void showPanel(QFrame* panel);
+    QList<QFrame*> sidePanels() const;
+    // Windows: 0 cascade, 1 tile horizontally, 2 tile vertically, 3 line up the minimised ones.
+    void Arrange(int how);
+    // The button bars at the top or the bottom of the window.
+    void alignCoolBar(Qt::ToolBarArea area);
+    Qt::ToolBarArea coolBarArea() const { return barArea; }
+    // The file panel's list from File1.
+    void fillFileList();
+    // Opens a file of the panel the way openchoice says.
+    void openChosenFile(const QString& path);
+    // Adds the reference library's panels (library, scripts, characters) to the left pane.
+    void addSidePanel(QFrame* panel, QToolButton* button);
+    // The main menu, built from its table once the windows are registered.
+    void buildMenu();
+
+    QMenuBar* SmartMenuXP1 = nullptr;
+    QToolBar* Picture[5] = {};
+    QComboBox *Combo1 = nullptr, *Combo2 = nullptr, *Combo4 = nullptr;
+    QFrame* LeftTool = nullptr;
+    QFrame *frfiles = nullptr, *frproject = nullptr, *frjavascript = nullptr, *frchr = nullptr, *frlibrary = nullptr;
+    DirListBox* PicBrowse = nullptr;
+    FileListBox* File1 = nullptr;
+    QTreeWidget* ListView1 = nullptr;
+    QComboBox *Combo3 = nullptr, *openchoice = nullptr;
+    QTreeWidget* TreeProject = nullptr;
+    QLabel *prodate = nullptr, *proauthor = nullptr, *prosite = nullptr, *projectlocation = nullptr;
+
     QMdiArea* MDIClient = nullptr;
     QStatusBar* StatusBar1 = nullptr;
     QFrame* Sideholder = nullptr;
@@ -72,9 +114,22 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildLayout();
+    void buildLeftPane(QFrame* holder);
+    QFrame* buildFilePanel();
+    QFrame* buildProjectPanel();
+    void buildButtonBars();
+    void buildRightBar();
+    void fillLists();
+    void hint(QWidget* w, const QString& line);
+    QHash<QObject*, QString> hints;
+    class QStackedLayout* panelStack = nullptr;
+    class QVBoxLayout* toolStrip = nullptr;
+    QFrame* panelHost = nullptr;
+    Qt::ToolBarArea barArea = Qt::TopToolBarArea;
     void subWindowActivated(QMdiSubWindow* w);
     QLabel* panels[3] = {};
     int sideWidth = 3470;

@@ -1,6 +1,8 @@
 #include "platform/Application.h"
+#include "platform/Desktop.h"
 #include "platform/ScriptedPrompts.h"
 
+#include <QUrl>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -15,5 +17,14 @@ int main(int argc, char** argv)
     VelloroApplication::prepare();
     VelloroApplication app(argc, argv);
     ScriptedPrompts::setFailureHandler([](const QString& msg) { ADD_FAILURE() << msg.toStdString(); });
+    // Nothing a test does may start a browser, a file manager or another program.
+    Desktop::setHandler({[](const QUrl& url) {
+                             ADD_FAILURE() << "unexpected desktop open: " << url.toString().toStdString();
+                             return false;
+                         },
+                         [](const QString& program, const QStringList&) {
+                             ADD_FAILURE() << "unexpected program start: " << program.toStdString();
+                             return false;
+                         }});
     return RUN_ALL_TESTS();
 }

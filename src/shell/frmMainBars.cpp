@@ -1,0 +1,253 @@
+// The main window's button bars and right bar: each button is the body of a menu key, or one
+// of the few bar-only commands.
+#include "shell/frmMain.h"
+
+#include "documents/DocumentWindow.h"
+#include "documents/Insertion.h"
+#include "documents/OpenSave.h"
+#include "platform/CodeMax.h"
+#include "platform/EventProcedure.h"
+#include "platform/Look.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/RuntimeError.h"
+#include "shell/MainMenu.h"
+#include "shell/Main.h"
+#include "shell/MenuCommands.h"
+
+#include <QComboBox>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+const QString crlf = QStringLiteral("\r\n");
+
+struct BarButton {
+    int number;        // SmartNetButton<number>
+    const char* tip;   // caption of the button and name of its picture
+    const char* key;   // the menu key it repeats, or "" for a bar-only command
+};
+
+// The five bars: file, editing, formatting, inserting, tools.
+constexpr BarButton fileBar[] = {
+    {1, "Quick html Page", "Quick html Page"}, {2, "From Files", "From Files"},
+    {3, "Quick Notepad", "Quick Notepad"},     {4, "Save", ""},
+    {5, "Save As", "Save As"},                 {6, "Print", "Print"},
+    {7, "Preview in Velloro", "Preview in Velloro"},
+};
+constexpr BarButton editBar[] = {
+    {22, "Undo", ""},  {23, "Redo", "Redo"},   {24, "Cut", "Cut"},
+    {25, "Copy", "Copy"}, {26, "Paste", "Paste"}, {28, "Find + Replace", ""},
+    {29, "GoTo Line", "GoTo Line"},
+};
+constexpr BarButton formatBar[] = {
+    {8, "Bold", "Bold"},           {9, "Italic", "Italic"},   {10, "Underline", "Underline"},
+    {11, "Paragraph", "Paragraph"}, {12, "Break", "Break"},    {18, "Numbered List", ""},
+    {19, "Outdent", ""},           {20, "Indent", ""},
+};
+constexpr BarButton insertBar[] = {
+    {13, "Hyperlink", "Hyperlink"}, {14, "Image", "Image"},   {15, "Table", "Table"},
+    {16, "Horizontal Line", "Horizontal Line"}, {17, "Email", "Email"}, {21, "Marquee", "Marquee"},
+};
+constexpr BarButton toolsBar[] = {
+    {30, "Colour Finder", "Colour Finder"}, {31, "CheckTags", "CheckTags"}, {32, "Spell Checker", ""},
+    {33, "Program Options", "Program Options"}, {34, "Main New Window", "Main New Window"},
+};
+
+// The right bar's form fields: a fragment, or the menu key of the window that makes one.
+struct FieldButton {
+    int number;
+    const char* caption;
+    const char* fragment;
+    const char* key;
+};
+constexpr FieldButton fieldButtons[] = {
+    {35, "Check Box", "<p><input type=checkbox name=C1 value=ON></p>", ""},
+    {36, "Button", "<p><input type=button value=Button name=B3></p>", ""},
+    {37, "Submit", "<p><input type=submit value=Submit name=B1></p>", ""},
+    {38, "Text Box Area", "", "Scrolling TextBox"},
+    {39, "1 Line Text Box", "<p><input type=text name=T1 size=20></p>", ""},
+    {40, "Hidden Box", "<input type=hidden name=H1 value=\"\">", ""},
+    {41, "Password Box", "<p><input type=password name=P1 size=20></p>", ""},
+    {42, "Marquee Text", "", "Marquee"},
+    {43, "Drop Down Menu", "", "Drop Menu"},
+    {44, "Subscript", "", "Subscript"},
+    {45, "Superscript", "", "Superscript"},
+};
+
+DocumentWindow* active()
+{
+    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    if (!doc)
+        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
+                           QStringLiteral("ActiveForm"));
+    return doc;
+}
+
+bool refuseInNotepad()
+{
+    if (!ActiveIsNotepad())
+        return false;
+    MsgBox(QStringLiteral("Only Supported for Webpages."));
+    return true;
+}
+
+// The blockquote pair: a tag in a page, the paragraph's indent in a notepad.
+void indent(bool in)
+{
+    DocumentWindow* doc = active();
+    if (doc->Tag() == QLatin1String("Pad")) {
+        RichTextBox* box = doc->RichTextBox1();
+        box->setSelIndent(qMax(0, box->SelIndent() + (in ? 360 : -360)));
+        return;
+    }
+    InsertAtCaret(crlf + (in ? QStringLiteral("<blockquote>") : QStringLiteral("</blockquote>")) + crlf);
+}
+
+// Runs a bar command the way the menu's handler does: a missing document ends it quietly.
+void quietly(const std::function<void()>& body)
+{
+    try {
+        body();
+    } catch (const RuntimeError&) {
+    }
+}
+
+std::function<void()> barOnlyCommand(int number)
+{
+    switch (number) {
+    case 4: return [] { ToolbarSave(); };
+    case 22: return [] { quietly([] { if (!refuseInNotepad()) active()->CodeMax1()->undo(); }); };
+    case 28: return [] {
+        if (!frmMain::instance()->ActiveForm()) {
+            MsgBox(QStringLiteral("You need an active form to use the find facility"));
+            return;
+        }
+        showForm(QStringLiteral("findform"));
+    };
+    case 18: return [] { quietly([] {
+        if (ActiveIsNotepad())
+            return;
+        InsertAtCaret(crlf + QStringLiteral("<p><font color=Black size=3>") + crlf + QStringLiteral("<ol>") + crlf +
+                      QStringLiteral("<li> ENTER TEXT HERE </li>") + crlf + QStringLiteral("</ol></font></p>") + crlf);
+    }); };
+    case 19: return [] { quietly([] { indent(false); }); };
+    case 20: return [] { quietly([] { indent(true); }); };
+    case 32: return [] {
+        DocumentWindow* doc = frmMain::instance()->ActiveForm();
+        if (doc && doc->Tag() == QLatin1String("Pad")) {
+            doc->startspell();
+            return;
+        }
+        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
+               QStringLiteral(":: Notepad Only ::"));
+    };
+    default: return {};
+    }
+}
+
+QToolButton* barButton(QWidget* parent, int number, const QString& tip, const QString& picture)
+{
+    auto* b = new QToolButton(parent);
+    b->setObjectName(QStringLiteral("SmartNetButton%1").arg(number));
+    b->setToolTip(tip);
+    const QIcon icon = Look::menuIcon(picture);
+    if (icon.isNull())
+        b->setText(tip);
+    else
+        b->setIcon(icon);
+    b->setAutoRaise(true);
+    return b;
+}
+}
+
+void frmMain::buildButtonBars()
+{
+    const std::pair<const BarButton*, int> bars[] = {
+        {fileBar, int(std::size(fileBar))},     {editBar, int(std::size(editBar))},
+        {formatBar, int(std::size(formatBar))}, {insertBar, int(std::size(insertBar))},
+        {toolsBar, int(std::size(toolsBar))},
+    };
+    const char* titles[] = {"File", "Edit", "Format", "Insert", "Tools"};
+    for (int i = 0; i < 5; ++i) {
+        auto* bar = new QToolBar(QString::fromLatin1(titles[i]), this);
+        bar->setObjectName(QStringLiteral("Picture%1").arg(i + 1));
+        bar->setIconSize(QSize(20, 20));
+        bar->setMovable(false);
+        Picture[i] = bar;
+        for (int j = 0; j < bars[i].second; ++j) {
+            const BarButton& spec = bars[i].first[j];
+            const QString key = QString::fromLatin1(spec.key);
+            const QString tip = QString::fromLatin1(spec.tip);
+            QToolButton* b = barButton(bar, spec.number, tip, key.isEmpty() ? tip : key);
+            bar->addWidget(b);
+            if (key.isEmpty()) {
+                connect(b, &QToolButton::clicked, this, Event(barOnlyCommand(spec.number)));
+            } else {
+                b->setEnabled(menuKeyRuns(key));
+                connect(b, &QToolButton::clicked, this, Event([this, key] { MenuClick(key); }));
+            }
+        }
+    }
+    // The heading, size and font tools sit on the formatting bar.
+    Combo4 = Look::named(new QComboBox(Picture[2]), QStringLiteral("Combo4"));
+    Combo4->setToolTip(QStringLiteral("Heading"));
+    Combo1 = Look::named(new QComboBox(Picture[2]), QStringLiteral("Combo1"));
+    Combo1->setToolTip(QStringLiteral("Font Size"));
+    Combo2 = Look::named(new QComboBox(Picture[2]), QStringLiteral("Combo2"));
+    Combo2->setToolTip(QStringLiteral("Font"));
+    Combo2->setMinimumContentsLength(14);
+    Picture[2]->addSeparator();
+    Picture[2]->addWidget(Combo4);
+    Picture[2]->addWidget(Combo1);
+    Picture[2]->addWidget(Combo2);
+    connect(Combo1, &QComboBox::textActivated, this, Event([](const QString& t) { quietly([&] { applyFontSize(t); }); }));
+    connect(Combo2, &QComboBox::textActivated, this, Event([](const QString& t) { quietly([&] { applyFontFace(t); }); }));
+    connect(Combo4, &QComboBox::activated, this, Event([](int index) { quietly([&] { insertHeading(index + 1); }); }));
+
+    alignCoolBar(Qt::TopToolBarArea);
+}
+
+void frmMain::alignCoolBar(Qt::ToolBarArea area)
+{
+    barArea = area;
+    // Two rows: files, editing and tools; then formatting and inserting.
+    for (QToolBar* bar : Picture)
+        removeToolBar(bar);
+    const int firstRow[] = {0, 1, 4}, secondRow[] = {2, 3};
+    for (int i : firstRow) {
+        addToolBar(area, Picture[i]);
+        Picture[i]->show();
+    }
+    addToolBarBreak(area);
+    for (int i : secondRow) {
+        addToolBar(area, Picture[i]);
+        Picture[i]->show();
+    }
+}
+
+void frmMain::buildRightBar()
+{
+    auto* v = static_cast<QVBoxLayout*>(RightHolder->layout());
+    for (const FieldButton& f : fieldButtons) {
+        const QString caption = QString::fromLatin1(f.caption);
+        QToolButton* b = barButton(RightHolder, f.number, caption, caption);
+        b->setIconSize(QSize(24, 24));
+        v->insertWidget(v->count() - 1, b, 0, Qt::AlignHCenter);
+        const QString fragment = QString::fromLatin1(f.fragment);
+        const QString key = QString::fromLatin1(f.key);
+        if (!key.isEmpty())
+            b->setEnabled(menuKeyRuns(key));
+        connect(b, &QToolButton::clicked, this, Event([this, fragment, key] {
+            quietly([&] {
+                if (refuseInNotepad())
+                    return;
+                if (key.isEmpty())
+                    InsertAtCaret(crlf + fragment + crlf);
+                else
+                    MenuClick(key);
+            });
+        }));
+    }
+}
