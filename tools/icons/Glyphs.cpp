@@ -534,9 +534,9 @@ void sliders(Canvas& c, QColor col)
 {
     for (int i = 0; i < 3; ++i) {
         const qreal y = 3 + i * 5;
-        c.box(1, y - 0.5, 15, y + 0.5, mid);
+        c.box(1, y - 1, 15, y, mid);
         const qreal x = i == 0 ? 5 : i == 1 ? 11 : 7;
-        c.frame(x - 2, y - 2, x + 2, y + 2, col, dark(col));
+        c.frame(x - 2, y - 3, x + 2, y + 2, col, dark(col));
     }
 }
 
@@ -668,8 +668,9 @@ void macroPlay(Canvas& c, int number)
     playTriangle(c, cMacro, 0, 0, 13);
     const QString n = QString::number(number);
     const int w = Canvas::digitsWidth(n);
-    c.frame(15 - w - 2, 8, 16, 16, white, ink);
-    c.digits(16 - w - 2 + 1, 10, n, ink);
+    // A cell of white on each side keeps the digits off the frame.
+    c.frame(16 - w - 4, 7, 16, 16, white, ink);
+    c.digits(16 - w - 2, 9, n, ink);
 }
 
 void thumbnails(Canvas& c, QColor col)
@@ -934,8 +935,8 @@ QList<IconDef> allIcons()
         c.digits(2, 2, QStringLiteral("1"), white); c.digits(2, 9, QStringLiteral("2"), white);
         c.box(8, 4, 14, 5, soft); c.box(8, 11, 13, 12, soft); });
     add("White Spaces", "White Spaces: dots between words and a pilcrow", cView, [](Canvas& c) {
-        c.box(1, 3, 5, 5, soft); c.box(6.5, 3.5, 7.5, 4.5, c.accent); c.box(9, 3, 14, 5, soft);
-        c.box(1, 8, 3, 10, soft); c.box(4.5, 8.5, 5.5, 9.5, c.accent); c.box(7, 8, 10, 10, soft);
+        c.box(1, 3, 5, 5, soft); c.box(6, 4, 7, 5, c.accent); c.box(9, 3, 14, 5, soft);
+        c.box(1, 8, 3, 10, soft); c.box(4, 9, 5, 10, c.accent); c.box(7, 8, 10, 10, soft);
         c.text(QRectF(10, 6, 6, 10), QString(QChar(0x00B6)), c.accent, 9, Canvas::Bold);
         c.box(1, 13, 8, 15, soft); });
     add("Save Layout", "Save Layout: a panel layout with a down arrow", cView, [](Canvas& c) {
@@ -1018,7 +1019,7 @@ QList<IconDef> allIcons()
     add("Insert Text", "Insert Text: lines of text with a caret", cText, [](Canvas& c) {
         textLines(c, 1, 15, {2, 5, 8}); c.box(1, 11, 8, 12, soft); c.box(9, 9, 10.5, 15, c.accent); });
     auto bullets = [](Canvas& c) {
-        for (int i = 0; i < 3; ++i) { c.circle(2.5, 3 + i * 5, 1.6, c.accent); c.box(6, 2.5 + i * 5, i == 1 ? 13 : 15, 3.5 + i * 5, ink); } };
+        for (int i = 0; i < 3; ++i) { c.circle(2.5, 3 + i * 5, 2, c.accent); c.box(6, 2 + i * 5, i == 1 ? 13 : 15, 4 + i * 5, ink); } };
     add("Insert Tabbed Text", "Insert Tabbed Text: a list with bullets", cText, bullets);
     add("Insert Comment", "Insert Comment: a speech bubble", cText, [](Canvas& c) {
         bubble(c, white, ink); for (int i = 0; i < 3; ++i) c.box(4 + i * 3, 6, 5.5 + i * 3, 7.5, c.accent); });
@@ -1042,9 +1043,9 @@ QList<IconDef> allIcons()
     add("Strikethrough", "Strikethrough: a struck-out S in tag brackets", cText, [](Canvas& c) {
         tagLetter(c, QStringLiteral("S")); c.box(4.5, 7.5, 11.5, 8.8, ink); });
     add("Subscript", "Subscript: x with a lowered 2 in tag brackets", cText, [](Canvas& c) {
-        brackets(c); c.text(QRectF(4, 3, 5.5, 8), QStringLiteral("x"), c.accent, 9, Canvas::Bold); c.digits(9, 10, QStringLiteral("2"), ink); });
+        brackets(c); c.text(QRectF(3.5, 3, 5, 8), QStringLiteral("x"), c.accent, 9, Canvas::Bold); c.digits(8, 9, QStringLiteral("2"), ink); });
     add("Superscript", "Superscript: x with a raised 2 in tag brackets", cText, [](Canvas& c) {
-        brackets(c); c.text(QRectF(4, 6, 5.5, 8), QStringLiteral("x"), c.accent, 9, Canvas::Bold); c.digits(9, 2, QStringLiteral("2"), ink); });
+        brackets(c); c.text(QRectF(3.5, 6, 5, 8), QStringLiteral("x"), c.accent, 9, Canvas::Bold); c.digits(8, 2, QStringLiteral("2"), ink); });
     add("Typewriter", "Typewriter: a monospaced T in tag brackets", cText, [](Canvas& c) { tagLetter(c, QStringLiteral("T"), Canvas::Mono, 11); });
 
     add("Citation", "Citation: quotation marks in tag brackets", cText, [](Canvas& c) { tagLetter(c, QString(QChar(0x201C)), Canvas::Bold | Canvas::Serif, 13); });
@@ -1077,9 +1078,7 @@ QList<IconDef> allIcons()
 
     // -- Tools -------------------------------------------------------------------------------
     add("Program Options", "Program Options: three sliders", cTools, [](Canvas& c) { sliders(c, c.accent); });
-    add("Page Properties", "Page Properties: a page with sliders", cTools, [](Canvas& c) {
-        page(c, 0, 0, 12, 16); textLines(c, 2, 10, {5, 7}); c.box(7, 7, 16, 16, white);
-        shifted(c, 8, 8, 0.5, [](Canvas& c2) { sliders(c2, c2.accent); }); });
+    add("Page Properties", "Page Properties (Tools menu): a page with an information badge", cTools, [](Canvas& c) { linedPage(c); badgeInfo(c, c.accent); });
     add("Folder Sort1", "Folder Sort: a folder with a sorting arrow", cTools, [](Canvas& c) {
         folder(c, c.accent, false, 1, 13); badgeArrow(c, ink, 2); });
     add("CheckTags", "Check HTML Tags: tag brackets with a tick", cTools, [](Canvas& c) {
@@ -1142,9 +1141,8 @@ QList<IconDef> allIcons()
     add("SelectAll", "Select All (context menu): lines of text inside a dashed selection", cEdit, [](Canvas& c) {
         for (int i = 0; i < 16; i += 2) { c.box(i, 0, i + 1, 1, ink); c.box(i + 1, 15, i + 2, 16, ink); c.box(0, i + 1, 1, i + 2, ink); c.box(15, i, 16, i + 1, ink); }
         for (int y = 3; y < 13; y += 3) c.box(3, y, 13, y + 2, light(c.accent)); });
-    add("Editor Properties", "Editor Properties: a code window with sliders", cEdit, [](Canvas& c) {
-        windowShape(c, c.accent, 0, 0, 14, 13); textLines(c, 2, 10, {5, 7, 9}); c.box(7, 7, 16, 16, white);
-        shifted(c, 8, 8, 0.5, [](Canvas& c2) { sliders(c2, c2.accent); }); });
+    add("Editor Properties", "Editor Properties: a code window with a gear", cEdit, [](Canvas& c) {
+        windowShape(c, c.accent, 0, 0, 14, 13); textLines(c, 2, 10, {5, 7, 9}); c.circle(12, 12, 4.8, white); gear(c, c.accent, 12, 12, 4); });
     add("Format Text", "Format Text (context menu): large and small letters", cText, [](Canvas& c) {
         c.text(QRectF(0, 1, 10, 14), QStringLiteral("A"), ink, 14, Canvas::Bold);
         c.text(QRectF(9, 5, 7, 10), QStringLiteral("a"), c.accent, 10, Canvas::Bold); });
@@ -1199,7 +1197,7 @@ QList<IconDef> allIcons()
         c.box(0, 1, 16, 2.5, soft); c.box(7, 5, 16, 6.5, ink); c.box(7, 9, 16, 10.5, ink); c.box(0, 13.5, 16, 15, soft);
         c.polygon({{5, 4.5}, {0.5, 7.75}, {5, 11}}, c.accent); });
     add("Ordered List", "Ordered List: numbered lines", cText, [](Canvas& c) {
-        for (int i = 0; i < 3; ++i) { c.digits(1, 1 + i * 5, QString::number(i + 1), c.accent); c.box(6, 2.5 + i * 5, i == 1 ? 13 : 16, 4 + i * 5, ink); } });
+        for (int i = 0; i < 2; ++i) { c.digits(1, 2 + i * 7, QString::number(i + 1), c.accent); c.box(6, 3.5 + i * 7, i == 1 ? 13 : 16, 5 + i * 7, ink); } });
 
     // Right bar of form fields and styles.
     add("Check Box", "Check Box: a ticked box", cInsert, [](Canvas& c) { checkBox(c, c.accent); });
