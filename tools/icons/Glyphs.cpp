@@ -1019,7 +1019,7 @@ QList<IconDef> allIcons()
     add("Insert Text", "Insert Text: lines of text with a caret", cText, [](Canvas& c) {
         textLines(c, 1, 15, {2, 5, 8}); c.box(1, 11, 8, 12, soft); c.box(9, 9, 10.5, 15, c.accent); });
     auto bullets = [](Canvas& c) {
-        for (int i = 0; i < 3; ++i) { c.circle(2.5, 3 + i * 5, 2, c.accent); c.box(6, 2 + i * 5, i == 1 ? 13 : 15, 4 + i * 5, ink); } };
+        for (int i = 0; i < 3; ++i) { c.circle(2.5, 3 + i * 5, 1.6, c.accent); c.box(6, 2.5 + i * 5 - 0.5, i == 1 ? 13 : 15, 3.5 + i * 5 + 0.5, ink); } };
     add("Insert Tabbed Text", "Insert Tabbed Text: a list with bullets", cText, bullets);
     add("Insert Comment", "Insert Comment: a speech bubble", cText, [](Canvas& c) {
         bubble(c, white, ink); for (int i = 0; i < 3; ++i) c.box(4 + i * 3, 6, 5.5 + i * 3, 7.5, c.accent); });
