@@ -6,7 +6,7 @@ CMAKE_ARGS ?=
 
 TEST_ENV = QT_QPA_PLATFORM=offscreen QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" QTWEBENGINE_DISABLE_SANDBOX=1
 
-.PHONY: all deps configure build run test bench fuzz check-asan clean
+.PHONY: all deps configure build run test bench fuzz check-asan clean icons
 
 all: build
 
@@ -51,6 +51,13 @@ check-asan: deps
 	cmake -S . -B build-asan -G $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DVELLORO_SANITIZE=ON
 	cmake --build build-asan -j$(JOBS)
 	cd build-asan && $(TEST_ENV) ASAN_OPTIONS=new_delete_type_mismatch=0 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 ctest --output-on-failure -j$(JOBS)
+
+# Redraws the pictures of data/Options/Images and their list tools/icons/icons.txt, and writes
+# contact sheets ($(BUILD)/icon-sheet-*.png) to look at them. The pictures are kept in the
+# repository, so an ordinary build never runs this.
+icons: configure
+	cmake --build $(BUILD) -j$(JOBS) --target iconmaker
+	$(BUILD)/tools/icons/iconmaker data/Options/Images tools/icons/icons.txt --sheet $(BUILD)/icon-sheet
 
 clean:
 	rm -rf $(BUILD) build-asan build-fuzz
