@@ -277,6 +277,8 @@ QFrame* createCharacterPanel(QWidget* parent)
     grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grid->setSelectionBehavior(QAbstractItemView::SelectRows);
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    // The first column is narrower than the style's smallest section.
+    grid->horizontalHeader()->setMinimumSectionSize(1);
     for (int c = 0; c < 2; ++c)
         grid->setColumnWidth(c, twipsToPixels(characterColumnTwips[c]));
     grid->horizontalHeader()->setStretchLastSection(true);

@@ -277,7 +277,7 @@ TEST(ReferenceTree, FontSizeIsTheOneStylePropertyEndingInEquals)
         if (n.caption.endsWith(QLatin1Char('=')))
             withEquals << n.caption;
     }
-    EXPECT_EQ(part.size(), 1 + 90);
+    EXPECT_EQ(part.size(), 1 + 94);
     EXPECT_EQ(withEquals, QStringList{"font-size="});
 }
 
