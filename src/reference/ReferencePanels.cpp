@@ -1,0 +1,309 @@
+#include "reference/ReferencePanels.h"
+
+#include "documents/Insertion.h"
+#include "documents/TemplateOpen.h"
+#include "platform/EventProcedure.h"
+#include "platform/Look.h"
+#include "platform/Prompts.h"
+#include "platform/RuntimeError.h"
+#include "platform/Twips.h"
+#include "shell/frmMain.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+using namespace ReferenceData;
+using Look::named;
+
+namespace {
+
+const QString CRLF = QStringLiteral("\r\n");
+
+// The trees' image list, drawn here rather than shipped as files.
+QPixmap blankPicture()
+{
+    QPixmap pm(16, 16);
+    pm.fill(Qt::transparent);
+    return pm;
+}
+
+QPixmap folderPicture(bool open)
+{
+    QPixmap pm = blankPicture();
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QColor(150, 110, 20));
+    p.setBrush(QColor(240, 200, 80));
+    p.drawRect(QRectF(1.5, 4.5, 12, 9));
+    p.drawRect(QRectF(1.5, 2.5, 5, 2));
+    if (open) {
+        QPainterPath flap;
+        flap.moveTo(3.5, 7.5);
+        flap.lineTo(15.5, 7.5);
+        flap.lineTo(13.5, 13.5);
+        flap.lineTo(1.5, 13.5);
+        flap.closeSubpath();
+        p.setBrush(QColor(255, 225, 130));
+        p.drawPath(flap);
+    }
+    return pm;
+}
+
+QPixmap pagePicture(const QColor& lines)
+{
+    QPixmap pm = blankPicture();
+    QPainter p(&pm);
+    p.setPen(QColor(90, 90, 90));
+    p.setBrush(Qt::white);
+    p.drawRect(3, 1, 10, 14);
+    p.setPen(lines);
+    for (int y = 4; y <= 12; y += 2)
+        p.drawLine(5, y, y == 12 ? 8 : 11, y);
+    return pm;
+}
+
+QPixmap globePicture()
+{
+    QPixmap pm = blankPicture();
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(Look::heading.darker(130), 1));
+    p.setBrush(Look::face);
+    p.drawEllipse(QRectF(1.5, 1.5, 13, 13));
+    p.setBrush(Qt::NoBrush);
+    p.drawEllipse(QRectF(5, 1.5, 6, 13));
+    p.drawLine(QPointF(1.5, 8), QPointF(14.5, 8));
+    p.drawLine(QPointF(8, 1.5), QPointF(8, 14.5));
+    return pm;
+}
+
+QPixmap scriptPicture()
+{
+    QPixmap pm = pagePicture(Look::face);
+    QPainter p(&pm);
+    QFont f = p.font();
+    f.setPixelSize(9);
+    f.setBold(true);
+    p.setFont(f);
+    p.setPen(Look::heading);
+    p.drawText(QRect(3, 3, 10, 11), Qt::AlignCenter, QStringLiteral("{}"));
+    return pm;
+}
+
+// The picture of an image number; a branch shows its open folder while selected.
+QIcon treeImage(int image)
+{
+    static QHash<int, QIcon> cache;
+    auto it = cache.find(image);
+    if (it != cache.end())
+        return *it;
+    QIcon icon;
+    switch (image) {
+    case BranchImage:
+        icon.addPixmap(folderPicture(false), QIcon::Normal);
+        icon.addPixmap(folderPicture(true), QIcon::Selected);
+        break;
+    case BranchSelectedImage: icon.addPixmap(folderPicture(true)); break;
+    case LeafImage: icon.addPixmap(pagePicture(Look::heading)); break;
+    case WebLinkImage: icon.addPixmap(globePicture()); break;
+    case ScriptImage: icon.addPixmap(scriptPicture()); break;
+    default: break;
+    }
+    cache.insert(image, icon);
+    return icon;
+}
+
+// Puts a region's line into the main window's tooltip strip while the mouse is over it.
+class TooltipLine : public QObject {
+public:
+    TooltipLine(QWidget* region, QString line) : QObject(region), text(std::move(line)) { region->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* e) override
+    {
+        if (e->type() == QEvent::Enter)
+            if (frmMain* main = frmMain::loaded(); main && main->Tooltiptext)
+                main->Tooltiptext->setText(text);
+        return false;
+    }
+
+private:
+    QString text;
+};
+
+QTreeWidget* newTree(const QString& name, QWidget* parent)
+{
+    auto* tree = named(new QTreeWidget(parent), name);
+    tree->setHeaderHidden(true);
+    tree->setColumnCount(1);
+    tree->setIconSize(QSize(16, 16));
+    tree->setSelectionMode(QAbstractItemView::SingleSelection);
+    return tree;
+}
+
+// The text at the caret, under the trap that makes a failure silent: a notepad, which has no
+// code editor, or no document at all.
+void insertSilently(const QString& text)
+{
+    OnErrorExit([&] { InsertAtCaret(text); });
+}
+
+}  // namespace
+
+void fillTree(QTreeWidget* tree, const QList<Node>& nodes)
+{
+    tree->clear();
+    QHash<QString, QTreeWidgetItem*> byKey;
+    for (const Node& n : nodes) {
+        QTreeWidgetItem* parent = n.parent.isEmpty() ? nullptr : byKey.value(n.parent);
+        auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree);
+        item->setText(0, n.caption);
+        item->setData(0, NodeKeyRole, n.key);
+        item->setData(0, NodeImageRole, n.image);
+        item->setIcon(0, treeImage(n.image));
+        byKey.insert(n.key, item);
+    }
+    // Opened after filling, with the branches above them, so that each shows open.
+    for (const Node& n : nodes)
+        if (n.expanded)
+            for (QTreeWidgetItem* item = byKey.value(n.key); item; item = item->parent())
+                item->setExpanded(true);
+}
+
+void fillCharacterGrid(QTableWidget* grid)
+{
+    const QList<CharacterRow>& rows = characterTable();
+    grid->clearContents();
+    grid->setColumnCount(3);
+    grid->setRowCount(static_cast<int>(rows.size()));
+    for (int r = 0; r < rows.size(); ++r) {
+        const QString cells[3] = {rows[r].character, rows[r].name, rows[r].code};
+        for (int c = 0; c < 3; ++c)
+            grid->setItem(r, c, new QTableWidgetItem(cells[c]));
+    }
+    if (!rows.isEmpty())
+        grid->setCurrentCell(0, 0);
+}
+
+QFrame* createLibraryPanel(QWidget* parent)
+{
+    QFrame* frame = Look::headedFrame(QStringLiteral("frlibrary"), QStringLiteral("Reference Library ::"), parent);
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    QTreeWidget* tree = newTree(QStringLiteral("TreeView1"), frame);
+    auto* text = named(new QLineEdit(frame), QStringLiteral("Text1"));
+    QPushButton* insert = Look::faceButton(QStringLiteral("Command3"), QStringLiteral("Insert"), frame);
+    layout->addWidget(tree, 1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(text, 1);
+    row->addWidget(insert);
+    layout->addLayout(row);
+
+    // The caption is the code: a click chooses it, Insert puts it on a line of its own.
+    QObject::connect(tree, &QTreeWidget::itemClicked, frame, Event([text](QTreeWidgetItem* item, int) {
+        text->setText(item->text(0));
+    }));
+    auto insertChosen = [text] {
+        if (text->text().isEmpty()) {
+            MsgBox(QStringLiteral("Select a code to insert!"));
+            return;
+        }
+        insertSilently(text->text() + CRLF);
+    };
+    QObject::connect(insert, &QPushButton::clicked, frame, Event([insertChosen] { insertChosen(); }));
+    QObject::connect(tree, &QTreeWidget::itemDoubleClicked, frame, Event([text, insertChosen](QTreeWidgetItem* item, int) {
+        text->setText(item->text(0));
+        insertChosen();
+    }));
+
+    fillTree(tree, referenceTree());
+    return frame;
+}
+
+QFrame* createScriptPanel(QWidget* parent)
+{
+    QFrame* frame = Look::headedFrame(QStringLiteral("frjavascript"), QStringLiteral("Javascript Examples ::"), parent);
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    QTreeWidget* tree = newTree(QStringLiteral("JavaList"), frame);
+    auto* javatext = named(new QLineEdit(frame), QStringLiteral("javatext"));
+    javatext->setVisible(false);
+    // Opens the script chosen by the last click; there is nothing to open until then.
+    QPushButton* open = Look::faceButton(QStringLiteral("Command5"), QStringLiteral("Open Script"), frame);
+    open->setToolTip(QStringLiteral("Open the selected script as a new web page"));
+    open->setEnabled(false);
+    layout->addWidget(tree, 1);
+    layout->addWidget(javatext);
+    layout->addWidget(open);
+    new TooltipLine(tree, QStringLiteral("Double click to open a pre-made template."));
+
+    // Only the script leaves mean anything: the root and the group of advanced scripts don't.
+    auto isScript = [](QTreeWidgetItem* item) { return item && item->data(0, NodeImageRole).toInt() == ScriptImage; };
+    QObject::connect(javatext, &QLineEdit::textChanged, open, [open](const QString& key) { open->setEnabled(!key.isEmpty()); });
+    QObject::connect(tree, &QTreeWidget::itemClicked, frame, Event([javatext, isScript](QTreeWidgetItem* item, int) {
+        if (isScript(item))
+            javatext->setText(item->data(0, NodeKeyRole).toString());
+    }));
+    QObject::connect(tree, &QTreeWidget::itemDoubleClicked, frame, Event([isScript](QTreeWidgetItem* item, int) {
+        if (isScript(item))
+            OpenScriptTemplate(item->data(0, NodeKeyRole).toString());
+    }));
+    QObject::connect(open, &QPushButton::clicked, frame, Event([javatext] {
+        if (!javatext->text().isEmpty())
+            OpenScriptTemplate(javatext->text());
+    }));
+
+    fillTree(tree, scriptList());
+    return frame;
+}
+
+QFrame* createCharacterPanel(QWidget* parent)
+{
+    QFrame* frame = Look::headedFrame(QStringLiteral("frchr"), QStringLiteral("Special Chr ::"), parent);
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    auto* grid = named(new QTableWidget(frame), QStringLiteral("Flex"));
+    grid->setColumnCount(3);
+    grid->horizontalHeader()->hide();
+    grid->verticalHeader()->hide();
+    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    // The first column is narrower than the style's smallest section.
+    grid->horizontalHeader()->setMinimumSectionSize(1);
+    for (int c = 0; c < 2; ++c)
+        grid->setColumnWidth(c, twipsToPixels(characterColumnTwips[c]));
+    grid->horizontalHeader()->setStretchLastSection(true);
+    auto* text = named(new QLineEdit(frame), QStringLiteral("Text2"));
+    QPushButton* insert = Look::faceButton(QStringLiteral("Command4"), QStringLiteral("Insert"), frame);
+    layout->addWidget(grid, 1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(text, 1);
+    row->addWidget(insert);
+    layout->addLayout(row);
+    new TooltipLine(grid, QStringLiteral("Select a Special Character to insert."));
+
+    // The code column is what goes in, as it stands: no line ending.
+    auto codeOf = [grid](int r) {
+        QTableWidgetItem* cell = grid->item(r, characterCodeColumn);
+        return cell ? cell->text() : QString();
+    };
+    QObject::connect(grid, &QTableWidget::cellClicked, frame, Event([text, codeOf](int r, int) { text->setText(codeOf(r)); }));
+    auto insertCurrent = [grid, codeOf] {
+        if (grid->currentRow() >= 0)
+            insertSilently(codeOf(grid->currentRow()));
+    };
+    QObject::connect(grid, &QTableWidget::cellDoubleClicked, frame, Event([insertCurrent](int, int) { insertCurrent(); }));
+    QObject::connect(insert, &QPushButton::clicked, frame, Event([insertCurrent] { insertCurrent(); }));
+
+    fillCharacterGrid(grid);
+    return frame;
+}

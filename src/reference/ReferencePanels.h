@@ -1,0 +1,30 @@
+#pragma once
+#include "reference/ReferenceData.h"
+
+#include <Qt>
+
+class QFrame;
+class QTableWidget;
+class QTreeWidget;
+class QWidget;
+
+// The three reference panels of the main window's left holder. Each is built filled and
+// working; the main window only places it and switches it on and off with the others.
+
+// `frlibrary`: the reference tree `TreeView1`, the chosen code `Text1` and `Command3` "Insert".
+QFrame* createLibraryPanel(QWidget* parent);
+// `frjavascript`: the script list `JavaList`, the hidden chosen key `javatext` and `Command5`,
+// which opens the chosen script page.
+QFrame* createScriptPanel(QWidget* parent);
+// `frchr`: the character grid `Flex`, the chosen code `Text2` and `Command4` "Insert".
+QFrame* createCharacterPanel(QWidget* parent);
+
+// Where a tree item keeps its node's key and image number.
+inline constexpr int NodeKeyRole = Qt::UserRole;
+inline constexpr int NodeImageRole = Qt::UserRole + 1;
+
+// Clears a tree and fills it with the nodes in their order, opening the branches marked so.
+// The sidebar fills its own tree with this too.
+void fillTree(QTreeWidget* tree, const QList<ReferenceData::Node>& nodes);
+// Clears the character grid and fills it with the table's rows; the first row is current.
+void fillCharacterGrid(QTableWidget* grid);
