@@ -10,6 +10,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
 #include "report/frmReport.h"
+#include "spelling/clsSpell.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
 #include "shell/Options.h"
@@ -107,6 +108,7 @@ void Main()
     registerDocumentForms();
     registerDocumentCommands();
     registerReportForms();
+    registerSpellingForms();
 
     try {
         auto* splash = form<frmSplash>();
