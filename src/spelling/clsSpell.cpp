@@ -10,6 +10,8 @@
 #include "spelling/SpellEngine.h"
 #include "spelling/frmCheck.h"
 
+#include <QPushButton>
+
 namespace {
 const QString facadeSource = QStringLiteral("Spell Checker");
 }

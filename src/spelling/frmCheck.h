@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/Forms.h"
+#include "platform/RuntimeError.h"
 #include "spelling/WordWalker.h"
 
 #include <QDialog>

@@ -128,7 +128,11 @@ TEST(CheckStep, MisspeltWordsNumbersAndTheWordAtTheEnd)
               (std::vector<Stop>{{Misspelt, QStringLiteral("0x"), 12, 2}}));
     EXPECT_EQ(walk(QStringLiteral("The cat's  don't"), known),
               (std::vector<Stop>{{Misspelt, QStringLiteral("cat's"), 4, 5}, {Misspelt, QStringLiteral("don't"), 11, 6}}));
-    EXPECT_EQ(walk(QStringLiteral("The e.g. cat"), known), (std::vector<Stop>{{Misspelt, QStringLiteral("e.g."), 4, 4}}));
+    // Going on after a stop searches from the word's last character: the abbreviation's last
+    // dot is then a full stop of its own, and the next word needs a capital.
+    EXPECT_EQ(walk(QStringLiteral("The e.g. cat"), known),
+              (std::vector<Stop>{{Misspelt, QStringLiteral("e.g."), 4, 4}, {Capital, QStringLiteral("cat"), 9, 4}}));
+    EXPECT_TRUE(walk(QStringLiteral("The e.g. cat"), known + QSet<QString>{QStringLiteral("e.g.")}).empty());
     EXPECT_TRUE(walk(QString(), known).empty());
     EXPECT_TRUE(walk(QStringLiteral("  ...  "), known).empty());
 }
