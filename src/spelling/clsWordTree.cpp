@@ -53,7 +53,8 @@ inline std::uint32_t formHash(std::uint32_t bucket, bool foldsCase, QStringView 
 
 inline bool sameText(QStringView a, QStringView b)
 {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
+    // An empty view may have no data pointer at all, which memcmp must not see.
+    return a.size() == b.size() && (a.isEmpty() || std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0);
 }
 
 // The small-letter form of a word, unit by unit, into a buffer that rarely needs the heap.

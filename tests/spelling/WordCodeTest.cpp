@@ -133,6 +133,13 @@ TEST(WordTest, OnlyTheBucketOfTheWordsCodeCounts)
     EXPECT_TRUE(tree.holdsExactly(QStringLiteral("A140"), u"apple"));
     EXPECT_FALSE(tree.holdsExactly(QStringLiteral("A140"), u"Apple"));
     EXPECT_FALSE(tree.holdsExactly(QStringLiteral("B000"), u"apple"));
+
+    // The empty word of an empty line is an entry like any other.
+    clsWordTree empty;
+    empty.Add(QStringLiteral("000 "), QString());
+    EXPECT_TRUE(empty.holdsExactly(QStringLiteral("000 "), QStringView()));
+    EXPECT_FALSE(empty.holdsExactly(QStringLiteral("000 "), u"a"));
+    EXPECT_FALSE(Spelling::isCorrectWord(empty, QString()));
 }
 
 TEST(NumberRules, LeadingValue)
