@@ -159,10 +159,13 @@ QString WordCode(QStringView word)
 void loadWordBytes(const QByteArray& bytes)
 {
     state().WordTree = std::make_unique<clsWordTree>();
+    state().WordTree->reserveForBytes(bytes.size());
+    state().WordTree->beginLoad();
     ListReader reader(*state().WordTree);
     for (qsizetype at = 0; at < bytes.size(); at += pieceSize)
         reader.piece(bytes.constData() + at, std::min(pieceSize, bytes.size() - at));
     reader.finish();
+    state().WordTree->endLoad();
 }
 
 void LoadWordList(const QString& path)
@@ -177,9 +180,17 @@ void LoadWordList(const QString& path)
         }
         throw RuntimeError(75, QStringLiteral("Path/File access error"), engineSource);
     }
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         throw RuntimeError(75, QStringLiteral("Path/File access error"), engineSource);
-    ListReader reader(*state().WordTree);
+    clsWordTree& tree = *state().WordTree;
+    tree.reserveForBytes(file.size());
+    // A failing read leaves the words read so far, and they answer the word test.
+    struct Indexing {
+        clsWordTree& t;
+        ~Indexing() { t.endLoad(); }
+    } indexing{tree};
+    tree.beginLoad();
+    ListReader reader(tree);
     QByteArray piece(pieceSize, Qt::Uninitialized);
     for (qint64 left = file.size(); left > 0;) {
         const qint64 want = std::min<qint64>(pieceSize, left);

@@ -51,6 +51,14 @@ inline std::uint32_t formHash(std::uint32_t bucket, bool foldsCase, QStringView 
     return mixKey(h) | 1;  // never 0
 }
 
+inline bool sameUnits(const char16_t* a, const char16_t* b, qsizetype n)
+{
+    for (qsizetype i = 0; i < n; ++i)
+        if (a[i] != b[i])
+            return false;
+    return true;
+}
+
 inline bool sameText(QStringView a, QStringView b)
 {
     // An empty view may have no data pointer at all, which memcmp must not see.
@@ -101,8 +109,7 @@ clsWordTree::clsWordTree()
 {
     codeKeys.assign(1024, 0);
     codeSlots.assign(1024, 0);
-    accepted.assign(1024, 0);
-    acceptedHash.assign(1024, 0);
+    accepted.assign(1024, Slot{0, 0, 0, 0});
 }
 
 std::uint32_t clsWordTree::bucketFor(std::uint64_t key, bool create)
@@ -186,15 +193,15 @@ void clsWordTree::append(std::uint32_t bucket, QStringView word)
     Entry e{};
     e.offset = std::uint32_t(arena.size());
     e.length = std::uint32_t(word.size());
-    e.lowered = e.offset;
     e.bucket = bucket;
     e.foldsCase = foldsCase(word);
+    e.ownLowered = 0;
     const char16_t* p = reinterpret_cast<const char16_t*>(word.data());
     arena.insert(arena.end(), p, p + word.size());
     if (e.foldsCase) {
         const Lowered low(word);
         if (!sameText(low.view, word)) {
-            e.lowered = std::uint32_t(arena.size());
+            e.ownLowered = 1;
             const char16_t* q = reinterpret_cast<const char16_t*>(low.view.data());
             arena.insert(arena.end(), q, q + low.view.size());
         }
@@ -208,56 +215,115 @@ void clsWordTree::append(std::uint32_t bucket, QStringView word)
         b.head = index;
     b.tail = index;
     ++b.size;
-    indexAccepted(index - 1);
+    if (!loading)
+        indexAccepted(index - 1);
+}
+
+std::uint32_t clsWordTree::acceptedSlot(std::uint32_t h, std::uint32_t kind, QStringView form) const
+{
+    const std::uint32_t mask = std::uint32_t(accepted.size() - 1);
+    const auto* text = reinterpret_cast<const char16_t*>(form.data());
+    std::uint32_t i = h & mask;
+    for (; accepted[i].hash; i = (i + 1) & mask) {
+        const Slot& slot = accepted[i];
+        if (slot.hash == h && slot.kind == kind && slot.length == std::uint32_t(form.size()) &&
+            sameUnits(arena.data() + slot.form, text, form.size()))
+            return i;
+    }
+    return i;
 }
 
 bool clsWordTree::findAccepted(std::uint32_t bucket, bool folds, QStringView form) const
 {
-    const std::uint32_t h = formHash(bucket, folds, form);
-    const std::uint32_t mask = std::uint32_t(accepted.size() - 1);
-    for (std::uint32_t i = h & mask; accepted[i]; i = (i + 1) & mask) {
-        if (acceptedHash[i] != h)
-            continue;
-        const Entry& e = entries[accepted[i] - 1];
-        if (e.bucket == bucket && e.foldsCase == folds && sameText(folds ? entryLowered(e) : entryText(e), form))
-            return true;
-    }
-    return false;
+    return accepted[acceptedSlot(formHash(bucket, folds, form), bucket * 2 + (folds ? 1 : 0), form)].hash != 0;
 }
 
-void clsWordTree::indexAccepted(std::uint32_t entry)
+std::uint32_t clsWordTree::entryHash(const Entry& e) const
+{
+    return formHash(e.bucket, e.foldsCase, e.foldsCase ? entryLowered(e) : entryText(e));
+}
+
+void clsWordTree::indexAccepted(std::uint32_t entry) { indexAccepted(entry, entryHash(entries[entry])); }
+
+void clsWordTree::indexAccepted(std::uint32_t entry, std::uint32_t h)
 {
     const Entry& e = entries[entry];
     const QStringView form = e.foldsCase ? entryLowered(e) : entryText(e);
-    if (findAccepted(e.bucket, e.foldsCase, form))
+    const std::uint32_t kind = e.bucket * 2 + e.foldsCase;
+    std::uint32_t i = acceptedSlot(h, kind, form);
+    if (accepted[i].hash)
         return;  // a repeat: the bucket already answers for it
-    if ((acceptedUsed + 1) * 2 > accepted.size())
+    if ((acceptedUsed + 1) * 2 > accepted.size()) {
         growAccepted();
-    const std::uint32_t h = formHash(e.bucket, e.foldsCase, form);
-    const std::uint32_t mask = std::uint32_t(accepted.size() - 1);
-    std::uint32_t i = h & mask;
-    while (accepted[i])
-        i = (i + 1) & mask;
-    accepted[i] = entry + 1;
-    acceptedHash[i] = h;
+        i = acceptedSlot(h, kind, form);
+    }
+    const auto offset = std::uint32_t(reinterpret_cast<const char16_t*>(form.data()) - arena.data());
+    accepted[i] = Slot{h, kind, offset, std::uint32_t(form.size())};
     ++acceptedUsed;
+}
+
+void clsWordTree::beginLoad()
+{
+    loading = true;
+    loadFrom = std::uint32_t(entries.size());
+}
+
+void clsWordTree::endLoad()
+{
+    if (!loading)
+        return;
+    loading = false;
+    const auto count = std::uint32_t(entries.size()) - loadFrom;
+    while ((acceptedUsed + count) * 2 > accepted.size())
+        growAccepted();
+    // Sort the new entries by the region of the table they go to (a counting sort on the top
+    // bits of their home slot), then insert them region by region.
+    const std::uint32_t mask = std::uint32_t(accepted.size() - 1);
+    int shift = 0;
+    while ((mask >> shift) >= 4096)
+        ++shift;
+    std::vector<std::uint32_t> hashes(count);
+    std::vector<std::uint32_t> starts((mask >> shift) + 2, 0);
+    for (std::uint32_t k = 0; k < count; ++k) {
+        hashes[k] = entryHash(entries[loadFrom + k]);
+        ++starts[((hashes[k] & mask) >> shift) + 1];
+    }
+    for (size_t r = 1; r < starts.size(); ++r)
+        starts[r] += starts[r - 1];
+    std::vector<std::uint32_t> order(count);
+    for (std::uint32_t k = 0; k < count; ++k)
+        order[starts[(hashes[k] & mask) >> shift]++] = k;
+    // Within a region, the entries keep their list order, so that of two equal forms the
+    // earlier one is the one kept.
+    for (std::uint32_t k : order)
+        indexAccepted(loadFrom + k, hashes[k]);
+}
+
+void clsWordTree::reserveForBytes(qint64 bytes)
+{
+    // English word lists average about ten bytes a line; a few words need a small-letter copy.
+    const auto words = size_t(bytes / 10 + 16);
+    arena.reserve(size_t(bytes + bytes / 8 + 16));
+    entries.reserve(words + words / 4);
+    size_t want = accepted.size();
+    while (want < words * 2)
+        want *= 2;
+    if (want > accepted.size() && acceptedUsed == 0)
+        accepted.assign(want, Slot{0, 0, 0, 0});
 }
 
 void clsWordTree::growAccepted()
 {
-    std::vector<std::uint32_t> oldSlots(accepted.size() * 2, 0);
-    std::vector<std::uint32_t> oldHash(accepted.size() * 2, 0);
-    oldSlots.swap(accepted);
-    oldHash.swap(acceptedHash);
+    std::vector<Slot, LargeBlockAllocator<Slot>> old(accepted.size() * 2, Slot{0, 0, 0, 0});
+    old.swap(accepted);
     const std::uint32_t mask = std::uint32_t(accepted.size() - 1);
-    for (size_t j = 0; j < oldSlots.size(); ++j) {
-        if (!oldSlots[j])
+    for (const Slot& slot : old) {
+        if (!slot.hash)
             continue;
-        std::uint32_t i = oldHash[j] & mask;
-        while (accepted[i])
+        std::uint32_t i = slot.hash & mask;
+        while (accepted[i].hash)
             i = (i + 1) & mask;
-        accepted[i] = oldSlots[j];
-        acceptedHash[i] = oldHash[j];
+        accepted[i] = slot;
     }
 }
 
@@ -267,10 +333,9 @@ bool clsWordTree::accepts(QStringView word) const
     const std::uint32_t bucket = const_cast<clsWordTree*>(this)->bucketFor(packCode(units.data()), false);
     if (!bucket)
         return false;
-    if (findAccepted(bucket, false, word))
-        return true;
+    // Most words of a text are small-letter words of the list: that probe goes first.
     const Lowered low(word);
-    return findAccepted(bucket, true, low.view);
+    return findAccepted(bucket, true, low.view) || findAccepted(bucket, false, word);
 }
 
 bool clsWordTree::holdsExactly(const QString& code, QStringView word) const

@@ -1,4 +1,6 @@
 #pragma once
+#include "spelling/LargeBlocks.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -54,16 +56,29 @@ public:
     void addWord(QStringView word);
 
     int wordCount() const { return static_cast<int>(entries.size()); }
+    // Room for a list file of this many bytes, so that loading it moves nothing.
+    void reserveForBytes(qint64 bytes);
+    // A list load: the word test's index is built once at the end, in the order of its table,
+    // rather than word by word at random places. Nothing may ask the tree in between.
+    void beginLoad();
+    void endLoad();
 
 private:
     friend class WordBucket;
     struct Entry {
-        std::uint32_t offset;   // in arena
+        std::uint32_t offset;  // in arena; a small-letter copy, when one is kept, follows the word
         std::uint32_t length;
-        std::uint32_t lowered;  // offset of the small-letter form (same as offset when equal)
-        std::uint32_t next;     // next entry of the bucket + 1; 0 = last
-        std::uint32_t bucket;
-        bool foldsCase;         // the first character changes when upper-cased
+        std::uint32_t next;    // next entry of the bucket + 1; 0 = last
+        std::uint32_t bucket : 30;
+        std::uint32_t foldsCase : 1;  // the first character changes when upper-cased
+        std::uint32_t ownLowered : 1;  // the small-letter form is a copy of its own
+    };
+    // A slot holds what the test compares, so that a probe reads the slot and the text only.
+    struct Slot {
+        std::uint32_t hash;  // never 0 in a used slot
+        std::uint32_t kind;  // bucket * 2 + whether the entry folds case
+        std::uint32_t form;  // offset of the compared form in arena
+        std::uint32_t length;
     };
 
     std::uint32_t bucketFor(std::uint64_t key, bool create);
@@ -71,15 +86,22 @@ private:
     const WordBucket* bucketAt(std::uint32_t index) const;
     void append(std::uint32_t bucket, QStringView word);
     QStringView entryText(const Entry& e) const { return QStringView(arena.data() + e.offset, e.length); }
-    QStringView entryLowered(const Entry& e) const { return QStringView(arena.data() + e.lowered, e.length); }
+    QStringView entryLowered(const Entry& e) const
+    {
+        return QStringView(arena.data() + e.offset + (e.ownLowered ? e.length : 0), e.length);
+    }
 
     // The index of accepted forms: (bucket, kind, form) of each entry, without repeats.
     bool findAccepted(std::uint32_t bucket, bool foldsCase, QStringView form) const;
+    // The slot of (bucket, kind, form), or of the empty place where it would go.
+    std::uint32_t acceptedSlot(std::uint32_t hash, std::uint32_t kind, QStringView form) const;
     void indexAccepted(std::uint32_t entry);
+    void indexAccepted(std::uint32_t entry, std::uint32_t hash);
+    std::uint32_t entryHash(const Entry& e) const;
     void growAccepted();
 
-    std::vector<char16_t> arena;
-    std::vector<Entry> entries;
+    std::vector<char16_t, LargeBlockAllocator<char16_t>> arena;
+    std::vector<Entry, LargeBlockAllocator<Entry>> entries;
     std::deque<WordBucket> buckets;  // a deque, so that GetCodeNode's answers stay valid
 
     // Four-character codes, folded, packed in 64 bits -> bucket index + 1 (open addressing).
@@ -89,9 +111,10 @@ private:
     // Codes of any other length (only reachable through Add with a code of one's own).
     QHash<QString, std::uint32_t> otherCodes;
 
-    std::vector<std::uint32_t> accepted;  // entry index + 1; 0 = empty slot
-    std::vector<std::uint32_t> acceptedHash;
+    std::vector<Slot, LargeBlockAllocator<Slot>> accepted;
     std::uint32_t acceptedUsed = 0;
+    bool loading = false;
+    std::uint32_t loadFrom = 0;
 };
 
 template <class F>
