@@ -257,8 +257,16 @@ bool frmCheck::CheckNextWord(int& start, int& end)
     }
 }
 
+RichTextBox* frmCheck::control() const
+{
+    if (!textControl)
+        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"));
+    return textControl;
+}
+
 void frmCheck::cmdIgnore_Click()
 {
+    RichTextBox* textControl = control();
     int start = textControl->SelStart() + textControl->SelLength();
     if (CheckNextWord(start, endPosition)) {
         txtWord->setText(textControl->SelText());
@@ -305,6 +313,7 @@ void frmCheck::cmdChange_Click()
     Q_EMIT BeforeChange(cancel);
     if (cancel)
         return;
+    RichTextBox* textControl = control();
     const QString replacement = txtChangeTo->text();
     textControl->setSelText(replacement);
     // Back to the start of the replacement, so that it is examined in its turn.

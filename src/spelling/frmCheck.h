@@ -90,6 +90,7 @@ protected:
 private:
     void resetControls();
     QString controlText() const;
+    RichTextBox* control() const;  // the control in use; none is error 91
     void showError(const RuntimeError& e);
 
     bool formLoaded = false;

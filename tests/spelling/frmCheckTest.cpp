@@ -403,6 +403,10 @@ TEST_F(SpellCheckTest, SpellCheckerMembers)
     s->setSpellCaption(QStringLiteral("Other"));
     EXPECT_EQ(s->SpellCaption(), QStringLiteral("Other"));
     EXPECT_NE(s->WindowhWnd(), quintptr(0));
+    // A window that was never given a control: the platform's box, and the program goes on.
+    prompts.answerMsgBox(Answer::OK);
+    s->SpellCheckerForm()->cmdIgnore->click();
+    EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("Run-time error '91':"))) << prompts.last().text.toStdString();
 
     // Only a text control will do, and the old one stays.
     s->setTextBox(pad->RichTextBox1());
