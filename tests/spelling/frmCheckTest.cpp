@@ -104,6 +104,7 @@ TEST_F(SpellCheckTest, WholeCheckWithChangesCapitalsAndTheFinishBox)
     pad->startspell();
     frmCheck* f = checkOf(pad);
 
+    saveShot(f, QStringLiteral("spellcheck"));
     // A misspelt word: selected in place, its bucket listed, the longest prefix chosen.
     EXPECT_TRUE(shows(f));
     EXPECT_EQ(pad->RichTextBox1()->SelStart(), 0);
@@ -483,4 +484,35 @@ TEST_F(SpellCheckTest, TheBuiltDictionaryChecksEnglish)
     f->cmdChange->click();
     EXPECT_EQ(prompts.last().text, QStringLiteral("Spell check complete"));
     EXPECT_TRUE(text(pad).startsWith(QStringLiteral("This is a simple sentence about Paris")));
+}
+
+TEST_F(SpellCheckTest, AReplacementThatFailsIsAStopAgain)
+{
+    dictionary("the\r\ncat\r\n");
+    auto* pad = openPad(QStringLiteral("The dgo cat"));
+    pad->startspell();
+    frmCheck* f = checkOf(pad);
+    EXPECT_EQ(selected(pad), QStringLiteral("dgo"));
+    f->txtChangeTo->setText(QStringLiteral("dgoo"));
+    f->cmdChange->click();
+    EXPECT_EQ(text(pad), QStringLiteral("The dgoo cat"));
+    EXPECT_EQ(pad->RichTextBox1()->SelStart(), 4);
+    EXPECT_EQ(selected(pad), QStringLiteral("dgoo"));
+    EXPECT_EQ(f->txtWord->text(), QStringLiteral("dgoo"));
+}
+
+TEST_F(SpellCheckTest, AnAdditionIsSavedWhenItsNotepadCloses)
+{
+    dictionary("the\r\n");
+    auto* pad = openPad(QStringLiteral("The qwzx zzyq"));
+    pad->startspell();
+    frmCheck* f = checkOf(pad);
+    f->cmdAdd->click();
+    EXPECT_EQ(selected(pad), QStringLiteral("zzyq"));
+    f->Command2->click();
+    EXPECT_EQ(dictionaryFile(), QByteArray("the\r\n"));
+    prompts.answerMsgBox(Answer::No);  // the notepad's save question
+    EXPECT_TRUE(pad->Unload());
+    processEvents();
+    EXPECT_EQ(dictionaryFile(), QByteArray("the\r\nqwzx\r\n"));
 }
