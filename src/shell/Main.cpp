@@ -10,6 +10,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
 #include "report/frmReport.h"
+#include "spelling/clsSpell.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
 #include "shell/MenuCommands.h"
@@ -139,6 +140,7 @@ void Main()
     registerDocumentForms();
     registerDocumentCommands();
     registerReportForms();
+    registerSpellingForms();
     // Last: the menu's own branches fill in what the windows above have not claimed.
     registerMenuCommands();
 

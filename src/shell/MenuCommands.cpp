@@ -345,7 +345,8 @@ void registerFileAndTools()
         if (!path.isEmpty())
             OpenOwnTemplate(path);
     });
-    add("Spell Checker", [] {
+    if (!frmMain::hasCommand(QStringLiteral("Spell Checker")))
+      add("Spell Checker", [] {
         DocumentWindow* doc = frmMain::instance()->ActiveForm();
         if (doc && isNotepad(doc)) {
             doc->startspell();
