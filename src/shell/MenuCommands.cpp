@@ -345,16 +345,6 @@ void registerFileAndTools()
         if (!path.isEmpty())
             OpenOwnTemplate(path);
     });
-    if (!frmMain::hasCommand(QStringLiteral("Spell Checker")))
-      add("Spell Checker", [] {
-        DocumentWindow* doc = frmMain::instance()->ActiveForm();
-        if (doc && isNotepad(doc)) {
-            doc->startspell();
-            return;
-        }
-        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-               QStringLiteral(":: Notepad Only ::"));
-    });
     // The desktop's own tools stand in for the system programs of these items.
     add("RegEdit", [] {
         Desktop::openUrl(QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)));

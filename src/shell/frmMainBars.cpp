@@ -51,7 +51,7 @@ constexpr BarButton insertBar[] = {
     {16, "Horizontal Line", "Horizontal Line"}, {17, "Email", "Email"}, {21, "Marquee", "Marquee"},
 };
 constexpr BarButton toolsBar[] = {
-    {30, "Colour Finder", "Colour Finder"}, {31, "CheckTags", "CheckTags"}, {32, "Spell Checker", ""},
+    {30, "Colour Finder", "Colour Finder"}, {31, "CheckTags", "CheckTags"}, {32, "Spell Checker", "Spell Checker"},
     {33, "Program Options", "Program Options"}, {34, "Main New Window", "Main New Window"},
 };
 
@@ -134,15 +134,6 @@ std::function<void()> barOnlyCommand(int number)
     }); };
     case 19: return [] { quietly([] { indent(false); }); };
     case 20: return [] { quietly([] { indent(true); }); };
-    case 32: return [] {
-        DocumentWindow* doc = frmMain::instance()->ActiveForm();
-        if (doc && doc->Tag() == QLatin1String("Pad")) {
-            doc->startspell();
-            return;
-        }
-        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-               QStringLiteral(":: Notepad Only ::"));
-    };
     default: return {};
     }
 }

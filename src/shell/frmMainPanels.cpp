@@ -6,6 +6,7 @@
 #include "platform/FileControls.h"
 #include "platform/Look.h"
 #include "platform/Twips.h"
+#include "reference/ReferencePanels.h"
 
 #include <QComboBox>
 #include <QDateTime>
@@ -71,6 +72,9 @@ void frmMain::buildLeftPane(QFrame* holder)
     frfiles = buildFilePanel();
     frproject = buildProjectPanel();
     addSidePanel(frfiles, panelButton(QStringLiteral("SmartNetButton61"), QStringLiteral("Open Files"), LeftTool));
+    addSidePanel(createLibraryPanel(panelHost), panelButton(QStringLiteral("SmartNetButton62"), QStringLiteral("Show the Library"), LeftTool));
+    addSidePanel(createCharacterPanel(panelHost), panelButton(QStringLiteral("SmartNetButton63"), QStringLiteral("Character List"), LeftTool));
+    addSidePanel(createScriptPanel(panelHost), panelButton(QStringLiteral("SmartNetButton64"), QStringLiteral("Javascript examples"), LeftTool));
     addSidePanel(frproject, panelButton(QStringLiteral("SmartNetButton66"), QStringLiteral("Project window"), LeftTool));
     hint(holder, QStringLiteral("Hover Over various menu's  for a description ....\n(BETA 1 Version)"));
 }
@@ -96,14 +100,6 @@ void frmMain::addSidePanel(QFrame* panel, QToolButton* button)
         frjavascript = panel;
     else if (panel->objectName() == QLatin1String("frchr"))
         frchr = panel;
-    // Hovering a panel's list tells what it does.
-    static const QHash<QString, QString> listHints = {
-        {QStringLiteral("Flex"), QStringLiteral("Select a Special Character to insert.")},
-        {QStringLiteral("JavaList"), QStringLiteral("Double click to open a pre-made template.")},
-    };
-    for (auto it = listHints.begin(); it != listHints.end(); ++it)
-        if (QWidget* list = panel->findChild<QWidget*>(it.key()))
-            hint(list, it.value());
 }
 
 QList<QFrame*> frmMain::sidePanels() const
