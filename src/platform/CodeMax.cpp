@@ -1,5 +1,6 @@
 #include "platform/CodeMax.h"
 
+#include "platform/EditorOptionsDialog.h"
 #include "platform/FindReplaceDialog.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
@@ -132,7 +133,7 @@ void CodeMax::ExecuteCmd(int command)
     case FindReplace: Q_EMIT findReplaceRequested(); FindReplaceDialog::open(this); return;
     case CollapseRight: collapseSelectionRight(); return;
     case RecordMacro: toggleRecording(); return;
-    case EditorProperties: Q_EMIT propertiesRequested(); return;
+    case EditorProperties: Q_EMIT propertiesRequested(); EditorOptionsDialog::open(this); return;
     default:
         if (command >= PlayMacro1 && command <= PlayMacro10) {
             playMacro(command - PlayMacro1 + 1);

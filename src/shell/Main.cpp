@@ -124,6 +124,7 @@ void InitialiseApplication()
 
     main->Combo2->clear();
     main->Combo2->addItems(QFontDatabase::families());
+    main->Combo2->setCurrentText(QFontDatabase::systemFont(QFontDatabase::GeneralFont).family());
     StartupSteps::run(StartupSteps::FontList);
     // The folder tree starts in the user's own folder; its choice fills the list.
     main->PicBrowse->setPath(QDir::homePath());

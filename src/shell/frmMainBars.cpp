@@ -43,7 +43,7 @@ constexpr BarButton editBar[] = {
 };
 constexpr BarButton formatBar[] = {
     {8, "Bold", "Bold"},           {9, "Italic", "Italic"},   {10, "Underline", "Underline"},
-    {11, "Paragraph", "Paragraph"}, {12, "Break", "Break"},    {18, "Numbered List", ""},
+    {11, "Paragraph", "Paragraph"}, {12, "Break", "Break"},    {18, "Ordered List", ""},
     {19, "Outdent", ""},           {20, "Indent", ""},
 };
 constexpr BarButton insertBar[] = {
