@@ -149,6 +149,10 @@ QTreeWidget* newTree(const QString& name, QWidget* parent)
     tree->setColumnCount(1);
     tree->setIconSize(QSize(16, 16));
     tree->setSelectionMode(QAbstractItemView::SingleSelection);
+    tree->setIndentation(14);
+    // The narrow pane scrolls sideways rather than cutting the captions short.
+    tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    tree->header()->setStretchLastSection(false);
     return tree;
 }
 

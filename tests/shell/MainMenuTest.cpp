@@ -133,6 +133,14 @@ TEST_F(MainMenuTest, EveryItemOfTheTableIsInTheMenuWithItsPicture)
     EXPECT_TRUE(item(QStringLiteral("Bold"))->isEnabled());
     EXPECT_TRUE(item(QStringLiteral("CheckTags"))->isEnabled());
     saveShot(main, QStringLiteral("main-window"));
+    for (const char* name : {"keyFile", "keyInsert", "keyText", "keyTools"}) {
+        auto* menu = main->SmartMenuXP1->findChild<QMenu*>(QString::fromLatin1(name));
+        ASSERT_NE(menu, nullptr) << name;
+        EXPECT_FALSE(menu->actions().isEmpty()) << name;
+        menu->popup(main->mapToGlobal(QPoint(40, 40)));
+        saveShot(menu, QStringLiteral("menu-") + QString::fromLatin1(name));
+        menu->hide();
+    }
 }
 
 TEST_F(MainMenuTest, BoldInAPageGoesInBetweenLineEndsWithTheCaretBehind)
