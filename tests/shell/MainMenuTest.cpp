@@ -8,6 +8,7 @@
 #include "platform/CodeMax.h"
 #include "platform/Desktop.h"
 #include "platform/RichTextBox.h"
+#include "report/frmReport.h"
 #include "shell/MainMenu.h"
 #include "shell/MenuCommands.h"
 #include "shell/MenuTable.h"
@@ -330,6 +331,19 @@ TEST_F(MainMenuTest, AMacroRecordedIntoAChosenSlotPlaysInAnotherPage)
     prompts.answerInput(QString());
     main->MenuClick(QStringLiteral("Record Macro"));
     EXPECT_FALSE(second->CodeMax1()->isRecordingMacro());
+}
+
+TEST_F(MainMenuTest, CheckHtmlTagsOpensTheReportEmptyFromMenuAndBar)
+{
+    page(QStringLiteral("<p>text</p>"));
+    main->MenuClick(QStringLiteral("CheckTags"));
+    auto* report = qobject_cast<frmReport*>(Forms::find(QStringLiteral("frmReport")));
+    ASSERT_NE(report, nullptr);
+    EXPECT_TRUE(report->isVisible());
+    EXPECT_EQ(report->CodeMax1->text(), QString());
+    report->hide();
+    main->Picture[4]->findChild<QToolButton*>(QStringLiteral("SmartNetButton31"))->click();
+    EXPECT_TRUE(report->isVisible());
 }
 
 TEST_F(MainMenuTest, DisabledItemsNeverRun)
