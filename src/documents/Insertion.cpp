@@ -6,8 +6,7 @@
 #include "platform/RuntimeError.h"
 #include "shell/frmMain.h"
 
-namespace {
-DocumentWindow* active()
+DocumentWindow* ActiveDocument()
 {
     DocumentWindow* doc = frmMain::instance()->ActiveForm();
     if (!doc)
@@ -15,17 +14,17 @@ DocumentWindow* active()
                            QStringLiteral("ActiveForm"));
     return doc;
 }
-}
 
-bool ActiveIsNotepad() { return active()->Tag() == QLatin1String("Pad"); }
+
+bool ActiveIsNotepad() { return ActiveDocument()->Tag() == QLatin1String("Pad"); }
 
 void InsertAtCaret(const QString& text)
 {
-    active()->CodeMax1()->setSelText(text);
-    active()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
+    ActiveDocument()->CodeMax1()->setSelText(text);
+    ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
 }
 
-void InsertSelected(const QString& text) { active()->CodeMax1()->setSelText(text); }
+void InsertSelected(const QString& text) { ActiveDocument()->CodeMax1()->setSelText(text); }
 
 bool RefuseInNotepad()
 {

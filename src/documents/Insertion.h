@@ -4,6 +4,11 @@
 // How tools deliver text to the active document. Each call reads frmMain::ActiveForm() anew;
 // with no document the call raises the run-time error the tool's own trap swallows.
 
+class DocumentWindow;
+
+// The active document; with none, the run-time error 91 that the callers' traps expect.
+DocumentWindow* ActiveDocument();
+
 // The window kind test: the active document is a notepad.
 bool ActiveIsNotepad();
 

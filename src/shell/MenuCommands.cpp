@@ -149,14 +149,6 @@ constexpr std::pair<const char*, int> editorKeys[] = {
     {"To Upper Case", CodeMax::UpperCase}, {"To Lower Case", CodeMax::LowerCase},
 };
 
-DocumentWindow* active()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
-                           QStringLiteral("ActiveForm"));
-    return doc;
-}
 
 bool isNotepad(DocumentWindow* doc) { return doc->Tag() == QLatin1String("Pad"); }
 
@@ -227,10 +219,10 @@ void registerForms()
 
 void registerEditing()
 {
-    add("Undo", [] { active()->CodeMax1()->undo(); });
-    add("Redo", [] { active()->CodeMax1()->redo(); });
+    add("Undo", [] { ActiveDocument()->CodeMax1()->undo(); });
+    add("Redo", [] { ActiveDocument()->CodeMax1()->redo(); });
     add("Cut", [] {
-        DocumentWindow* doc = active();
+        DocumentWindow* doc = ActiveDocument();
         if (isNotepad(doc)) {
             RichTextBox* box = doc->RichTextBox1();
             QGuiApplication::clipboard()->setText(box->SelText());
@@ -239,20 +231,20 @@ void registerEditing()
         }
         doc->CodeMax1()->cut();
     });
-    add("Copy", [] { active()->CodeMax1()->copy(); });
-    add("Paste", [] { active()->CodeMax1()->paste(); });
-    add("Delete Selected", [] { active()->CodeMax1()->DeleteSel(); });
+    add("Copy", [] { ActiveDocument()->CodeMax1()->copy(); });
+    add("Paste", [] { ActiveDocument()->CodeMax1()->paste(); });
+    add("Delete Selected", [] { ActiveDocument()->CodeMax1()->DeleteSel(); });
     add("Clear Clipboard", [] { QGuiApplication::clipboard()->clear(); });
     for (const auto& [key, number] : editorKeys) {
         const int n = number;
-        add(key, [n] { active()->CodeMax1()->ExecuteCmd(n); });
+        add(key, [n] { ActiveDocument()->CodeMax1()->ExecuteCmd(n); });
     }
 }
 
 // Recording asks which of the ten slots takes the macro; the same command ends it.
 void recordMacro()
 {
-    CodeMax* editor = active()->CodeMax1();
+    CodeMax* editor = ActiveDocument()->CodeMax1();
     frmMain* main = frmMain::instance();
     if (editor->isRecordingMacro()) {
         editor->ExecuteCmd(CodeMax::RecordMacro);
@@ -282,13 +274,13 @@ void registerMacros()
     add("Record Macro", [] { recordMacro(); });
     for (int i = 1; i <= 10; ++i)
         frmMain::registerCommand(QStringLiteral("PlayM%1").arg(i),
-                                 [i] { active()->CodeMax1()->ExecuteCmd(CodeMax::PlayMacro1 + i - 1); });
+                                 [i] { ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::PlayMacro1 + i - 1); });
 }
 
 // The three view toggles of the editor; a notepad has no such margins.
 void toggleView(bool (CodeMax::*get)() const, void (CodeMax::*set)(bool))
 {
-    DocumentWindow* doc = active();
+    DocumentWindow* doc = ActiveDocument();
     if (isNotepad(doc)) {
         MsgBox(QStringLiteral("Not supported for the notepad"));
         return;
@@ -307,19 +299,19 @@ void registerView()
         showForm(QStringLiteral("Options"));
     });
     add("Preview in Velloro", [] {
-        auto* doc = qobject_cast<CodeDocumentWindow*>(active());
+        auto* doc = qobject_cast<CodeDocumentWindow*>(ActiveDocument());
         if (!doc)
             throw RuntimeError(438, QStringLiteral("Object doesn't support this property or method"),
                                QStringLiteral("WebBrowser1"));
         doc->writeAndShowPreview(previewFile());
     });
     add("Preview .html Files In Explorer", [] {
-        const QString text = active()->CodeMax1()->text();
+        const QString text = ActiveDocument()->CodeMax1()->text();
         TextFiles::writeText(previewFile(), text);
         Desktop::openUrl(QUrl::fromLocalFile(previewFile()));
     });
     add("Open in Default App", [] {
-        const QString path = active()->tempaddress()->text();
+        const QString path = ActiveDocument()->tempaddress()->text();
         if (path.isEmpty()) {
             MsgBox(QStringLiteral("This is not a saved file, so Velloro cannot open to default program."));
             return;
@@ -339,7 +331,7 @@ void registerFileAndTools()
         prompts().pageSetup(printer, QStringLiteral("Page Setup"));
     });
     add("Print", [] { PrintDocument(); });
-    add("Close", [] { Forms::unload(active()); });
+    add("Close", [] { Forms::unload(ActiveDocument()); });
     add("Load Own Templates", [] {
         const QString path = prompts().openFile(QString(), QStringLiteral("Template Files (*.tmpl)"), QString());
         if (!path.isEmpty())
@@ -430,7 +422,7 @@ void applyFontSize(const QString& chosen)
     if (chosen.isEmpty())
         return;
     const QChar digit = chosen.at(0);
-    DocumentWindow* doc = active();
+    DocumentWindow* doc = ActiveDocument();
     if (isNotepad(doc)) {
         // The size digits of the font tag in points.
         static const int points[] = {8, 10, 12, 14, 18, 24, 36};
@@ -447,7 +439,7 @@ void applyFontFace(const QString& face)
 {
     if (face.isEmpty())
         return;
-    DocumentWindow* doc = active();
+    DocumentWindow* doc = ActiveDocument();
     if (isNotepad(doc)) {
         doc->RichTextBox1()->setSelFontName(face);
         return;
@@ -464,7 +456,7 @@ void insertHeading(int level)
     const QString face = options->HeadingFont[level - 1]->text();
     const QString size = options->HeadingSize[level - 1]->text();
     const QString h = QString::number(level);
-    active()->CodeMax1()->setFocus();
+    ActiveDocument()->CodeMax1()->setFocus();
     InsertAtCaret(crlf + QStringLiteral("<h") + h + QStringLiteral("><font face=\"") + face +
                   QStringLiteral("\" style=\"font-size: ") + size + QStringLiteral("pt\">Enter Text Here</font></h") + h +
                   QStringLiteral(">") + crlf);

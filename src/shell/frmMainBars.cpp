@@ -76,14 +76,6 @@ constexpr FieldButton fieldButtons[] = {
     {45, "Superscript", "", "Superscript"},
 };
 
-DocumentWindow* active()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
-                           QStringLiteral("ActiveForm"));
-    return doc;
-}
 
 bool refuseInNotepad()
 {
@@ -96,7 +88,7 @@ bool refuseInNotepad()
 // The blockquote pair: a tag in a page, the paragraph's indent in a notepad.
 void indent(bool in)
 {
-    DocumentWindow* doc = active();
+    DocumentWindow* doc = ActiveDocument();
     if (doc->Tag() == QLatin1String("Pad")) {
         RichTextBox* box = doc->RichTextBox1();
         box->setSelIndent(qMax(0, box->SelIndent() + (in ? 360 : -360)));
@@ -118,7 +110,7 @@ std::function<void()> barOnlyCommand(int number)
 {
     switch (number) {
     case 4: return [] { ToolbarSave(); };
-    case 22: return [] { quietly([] { if (!refuseInNotepad()) active()->CodeMax1()->undo(); }); };
+    case 22: return [] { quietly([] { if (!refuseInNotepad()) ActiveDocument()->CodeMax1()->undo(); }); };
     case 28: return [] {
         if (!frmMain::instance()->ActiveForm()) {
             MsgBox(QStringLiteral("You need an active form to use the find facility"));
