@@ -35,6 +35,7 @@ QString lineNumberText(int line)
 }
 
 std::function<void(notepad*)> notepad::spellCheck;
+std::function<void(notepad*)> notepad::makeSpellChecker;
 
 namespace {
 // The strip left of the text that shows the numbers of the visible lines.
@@ -153,6 +154,9 @@ notepad::notepad(QWidget* parent) : DocumentWindow(parent)
     connect(box, &RichTextBox::Change, this, &notepad::textChanged);
     connect(tabnumber, &QLineEdit::textChanged, this, Event([this] { tabnumberChanged(); }));
     buildMenu();
+    // The window owns its spell checker from its load on.
+    if (makeSpellChecker)
+        makeSpellChecker(this);
 }
 
 void notepad::buildMenu()

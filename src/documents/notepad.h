@@ -25,6 +25,8 @@ public:
     void startspell() override;
     // The spell checker's entry, set by the spelling window; unset, the check is not offered.
     static std::function<void(notepad*)> spellCheck;
+    // Gives a new notepad its spell checker object; set by the spelling library.
+    static std::function<void(notepad*)> makeSpellChecker;
 
     // The popup menu and its dispatcher (the items' names are the keys).
     QMenu* mnu = nullptr;

@@ -173,5 +173,6 @@ void SpellCheckActiveDocument()
 void registerSpellingForms()
 {
     notepad::spellCheck = [](notepad* pad) { startSpellCheck(pad); };
+    notepad::makeSpellChecker = [](notepad* pad) { spellcheckerOf(pad); };
     frmMain::registerCommand(QStringLiteral("Spell Checker"), [] { SpellCheckActiveDocument(); });
 }

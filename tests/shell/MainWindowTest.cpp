@@ -149,6 +149,8 @@ TEST_F(StartScreenTest, TheNotepadTaskMakesANotepadAndHidesTheScreen)
     QTest::mouseClick(s->findChild<QLabel*>(QStringLiteral("Label6")), Qt::LeftButton);
     ASSERT_EQ(main->documents().size(), 1);
     EXPECT_EQ(main->ActiveForm()->Tag(), QStringLiteral("Pad"));
+    // The notepad owns its spell checker from its load on.
+    EXPECT_NE(main->ActiveForm()->findChild<QObject*>(QStringLiteral("spellchecker")), nullptr);
     EXPECT_FALSE(s->isVisible());
 }
 
