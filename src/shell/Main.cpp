@@ -9,6 +9,7 @@
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
+#include "ftp/ftpnormal.h"
 #include "report/frmReport.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
@@ -107,6 +108,7 @@ void Main()
     registerDocumentForms();
     registerDocumentCommands();
     registerReportForms();
+    registerFtpForms();
 
     try {
         auto* splash = form<frmSplash>();
