@@ -27,6 +27,8 @@ protected:
         CutWhen guard(engine, nullptr);
         const bool ok = engine.FtpConnect(QStringLiteral("127.0.0.1"), server->user(), server->password());
         EXPECT_FALSE(guard.timedOut);
+        EXPECT_TRUE(ok) << "log: " << rec.lines.join(QLatin1Char('|')).toStdString()
+                        << " messages: " << rec.messages.join(QLatin1Char('|')).toStdString() << " server: " << server->output().toStdString();
         return ok;
     }
     QString local(const QString& name, const QByteArray& bytes)
@@ -153,11 +155,11 @@ TEST_P(EngineAgainstServer, StoresSmallEmptyAndLargeFilesByteForByte)
     for (const auto& c : cases) {
         const QString name = QString::fromLatin1(c.name);
         rec.progress.clear();
-        send(local(name, c.bytes), name);
+        send(local(name, c.bytes), server->upload(name));
         // SendComplete comes from the event loop, before the server's 226 can.
         ++completes;
         EXPECT_EQ(rec.completes, completes) << c.name;
-        EXPECT_TRUE(server->readFile(name) == c.bytes) << c.name << " differs on the server";
+        EXPECT_TRUE(server->readFile(server->upload(name)) == c.bytes) << c.name << " differs on the server";
         qint64 sum = 0;
         for (const auto& p : rec.progress)
             sum += p.first;
@@ -183,16 +185,16 @@ TEST_P(EngineAgainstServer, AQueueDrivenBySendCompleteSendsEveryFile)
         order << QStringLiteral("complete");
         if (next < names.size()) {
             const int i = next++;
-            engine.SendFile(files.path() + QLatin1Char('/') + names[i], names[i]);
+            engine.SendFile(files.path() + QLatin1Char('/') + names[i], server->upload(names[i]));
         }
     });
     for (int i = 0; i < names.size(); ++i)
         local(names[i], bodies[i]);
-    send(files.path() + QLatin1Char('/') + names[0], names[0]);
+    send(files.path() + QLatin1Char('/') + names[0], server->upload(names[0]));
     // The last file's 226 may come after the first send returned.
     ASSERT_TRUE(spinUntil([&] { return order.size() == names.size(); }));
     for (int i = 0; i < names.size(); ++i)
-        EXPECT_TRUE(spinUntil([&] { return server->readFile(names[i]) == bodies[i]; })) << names[i].toStdString();
+        EXPECT_TRUE(spinUntil([&] { return server->readFile(server->upload(names[i])) == bodies[i]; })) << names[i].toStdString();
     EXPECT_EQ(engine.activeWaits(), 0);
 }
 

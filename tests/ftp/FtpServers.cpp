@@ -49,6 +49,11 @@ FtpServer::~FtpServer()
 
 QString FtpServer::user() const { return kind == Pyftpdlib ? QStringLiteral("velloro") : QStringLiteral("anonymous"); }
 QString FtpServer::password() const { return kind == Pyftpdlib ? QStringLiteral("s3cret") : QStringLiteral("guest@"); }
+QString FtpServer::upload(const QString& name) const
+{
+    return kind == Pyftpdlib ? name : QStringLiteral("incoming/") + name;
+}
+
 QString FtpServer::root() const { return dir.path() + QStringLiteral("/root"); }
 QString FtpServer::output() const { return QString::fromLocal8Bit(const_cast<QProcess&>(process).readAll()); }
 
@@ -82,13 +87,17 @@ bool FtpServer::start(QString* why)
             *why = QStringLiteral("vsftpd is not installed (scripts/install-deps installs it)");
             return false;
         }
-        // Anonymous uploads into a root of its own; as root the server drops to the "ftp" user
-        // that its package creates, so the root belongs to that user.
+        // Anonymous login: the server refuses a root it could write to, so uploads go to a
+        // folder below it; as root the server drops to the "ftp" user that its package creates,
+        // so that folder belongs to that user.
         const QString empty = dir.path() + QStringLiteral("/empty");
         QDir().mkpath(empty);
+        const QString incoming = root() + QStringLiteral("/incoming");
+        QDir().mkpath(incoming);
         if (getuid() == 0) {
             if (const passwd* pw = getpwnam("ftp"))
-                ::chown(root().toLocal8Bit().constData(), pw->pw_uid, pw->pw_gid);
+                if (::chown(incoming.toLocal8Bit().constData(), pw->pw_uid, pw->pw_gid) != 0)
+                    qWarning("cannot hand the upload folder to the ftp user");
         }
         QFile::setPermissions(root(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
                                           QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther |
@@ -100,7 +109,7 @@ bool FtpServer::start(QString* why)
             "listen=YES\nlisten_ipv6=NO\nlisten_address=127.0.0.1\nlisten_port=%1\nbackground=NO\n"
             "anonymous_enable=YES\nlocal_enable=NO\nwrite_enable=YES\nanon_upload_enable=YES\n"
             "anon_other_write_enable=YES\nanon_mkdir_write_enable=YES\nanon_umask=022\nanon_root=%2\n"
-            "allow_writeable_chroot=YES\nftp_username=ftp\npasv_enable=YES\npasv_address=127.0.0.1\n"
+            "ftp_username=ftp\npasv_enable=YES\npasv_address=127.0.0.1\n"
             "pasv_min_port=%3\npasv_max_port=%4\nsecure_chroot_dir=%5\nxferlog_enable=NO\n"
             "dirmessage_enable=NO\nssl_enable=NO\nseccomp_sandbox=NO\n")
                            .arg(serverPort)

@@ -22,6 +22,8 @@ public:
     QString password() const;
     // The folder that uploads land in and downloads come from.
     QString root() const;
+    // The remote name an upload of this name goes to (vsftpd takes uploads below its root).
+    QString upload(const QString& name) const;
     QString name() const { return kind == Pyftpdlib ? QStringLiteral("pyftpdlib") : QStringLiteral("vsftpd"); }
     QByteArray readFile(const QString& name) const;
     void writeFile(const QString& name, const QByteArray& bytes) const;
