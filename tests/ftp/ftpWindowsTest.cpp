@@ -2,6 +2,7 @@
 // whole uploads through the engine to a real server.
 #include "common/TestSupport.h"
 
+#include "FakeServer.h"
 #include "FtpServers.h"
 #include "documents/frmDocument.h"
 #include "ftp/FtpEngine.h"
@@ -570,4 +571,67 @@ TEST_F(FtpWindowServerTest, ViewFilesAndRetrieveFromTheAdvancedWindow)
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.readAll(), QByteArray("remote body"));
     QFile::remove(FtpEngine::downloadPath());
+}
+
+namespace {
+// A peer whose passive port leads nowhere: every data connection is refused.
+class FtpWindowDataErrorTest : public FtpWindowTest {
+protected:
+    void SetUp() override
+    {
+        FtpWindowTest::SetUp();
+        fake.standardLogin();
+        const quint16 nobody = freePort();
+        fake.on("TYPE", [this](const QByteArray&) { fake.send("200 ok\r\n"); });
+        fake.on("PASV", [this, nobody](const QByteArray&) {
+            fake.send("227 Entering Passive Mode (127,0,0,1," + QByteArray::number(nobody / 256) + "," +
+                      QByteArray::number(nobody % 256) + ")\r\n");
+        });
+        fake.on("STOR", [this](const QByteArray&) { fake.send("150 Go ahead\r\n"); });
+        ftpadvanced::setPortForTesting(fake.port());
+        ftpnormal* w = upload();
+        w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
+        w->username->setText(QStringLiteral("u"));
+        w->password->setText(QStringLiteral("p"));
+        w->upload->click();
+        ASSERT_TRUE(advanced()->engine()->isConnected());
+    }
+    FakeServer fake;
+};
+}
+
+TEST_F(FtpWindowDataErrorTest, AFailedFileIsSkippedAndTheAdvancedWindowHidden)
+{
+    ftpnormal* w = upload();
+    w->addFile(QStringLiteral("a.txt"), localFile(QStringLiteral("a.txt"), "aaa"));
+    w->addFile(QStringLiteral("b.txt"), localFile(QStringLiteral("b.txt"), "bbb"));
+    advanced()->show();
+    prompts.answerMsgBox(Answer::OK);
+    // The send still waits for its 226; the user cuts once the error has been shown.
+    whenTrue(w, [this] { return prompts.pending() == 0; }, [this] { advanced()->Command5->click(); }, 10000);
+    w->Command2->click();
+    ASSERT_EQ(prompts.prompts().size(), 1);
+    EXPECT_EQ(prompts.last().title, QStringLiteral("Winsock2 Error:"));
+    EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("Error: 10061\r")));
+    EXPECT_TRUE(prompts.last().text.endsWith(QStringLiteral(", Connection Will be cut off.")));
+    EXPECT_EQ(prompts.last().style, 0);
+    EXPECT_EQ(w->currentRow(), 2);  // moved past the failed file, not restarted
+    EXPECT_EQ(w->Flex->rowCount(), 2);
+    EXPECT_FALSE(advanced()->isVisible());
+    EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
+}
+
+TEST_F(FtpWindowDataErrorTest, AFailedLastFileCutsTheWholeConnection)
+{
+    ftpnormal* w = upload();
+    w->addFile(QStringLiteral("only.txt"), localFile(QStringLiteral("only.txt"), "x"));
+    prompts.answerMsgBox(Answer::OK);
+    whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 10000);  // a guard only
+    w->Command2->click();
+    ASSERT_EQ(prompts.prompts().size(), 1);
+    EXPECT_EQ(prompts.last().title, QStringLiteral("Winsock2 Error:"));
+    EXPECT_FALSE(advanced()->engine()->isConnected());
+    EXPECT_EQ(w->panelText(2), QStringLiteral("Disconnected from Server"));
+    EXPECT_EQ(w->serverShapeColour(), 255);
+    EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
 }
