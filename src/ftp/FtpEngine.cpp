@@ -274,6 +274,36 @@ void FtpEngine::dataError(int socketError)
 
 void FtpEngine::SendFile(const QString& source, const QString& remoteName)
 {
+    // The queue asks for the next file from inside the wait of the one before (on its
+    // SendComplete). Running it right there would stack one wait on another for every file of
+    // a long queue; it is kept instead and sent by the running call as soon as that call's
+    // 226 has come, so the stack stays flat and the next file's commands follow the 226.
+    if (sending) {
+        deferred = {source, remoteName};
+        deferredSession = session;
+        hasDeferred = true;
+        return;
+    }
+    sending = true;
+    QPointer<FtpEngine> self(this);
+    QString src = source;
+    QString remote = remoteName;
+    for (;;) {
+        sendOne(src, remote);
+        if (!self)
+            return;
+        if (!hasDeferred || deferredSession != session)
+            break;
+        hasDeferred = false;
+        src = deferred.first;
+        remote = deferred.second;
+    }
+    hasDeferred = false;
+    sending = false;
+}
+
+void FtpEngine::sendOne(const QString& source, const QString& remoteName)
+{
     if (source.isEmpty()) {
         Q_EMIT message(QStringLiteral("File Needed!!"), 0, QString());
         return;

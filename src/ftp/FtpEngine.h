@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QObject>
+#include <QPair>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -111,6 +112,7 @@ private:
     void dataClosed();
     void dataError(int socketError);
     void dataBytesWritten(qint64 n);
+    void sendOne(const QString& source, const QString& remoteName);
     void pump();
     void finishUpload();
     void closeDownload();
@@ -135,6 +137,11 @@ private:
     qint64 uploadLeft = 0;      // bytes not yet read from disk
     qint64 uploadUnsent = 0;    // bytes not yet written to the wire
     bool uploading = false;
+    // A send asked for while another runs, taken up when that one ends.
+    bool sending = false;
+    bool hasDeferred = false;
+    QPair<QString, QString> deferred;
+    quint64 deferredSession = 0;
 };
 
 // Winsock's number for a socket error.

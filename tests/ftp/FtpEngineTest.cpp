@@ -181,8 +181,10 @@ TEST_P(EngineAgainstServer, AQueueDrivenBySendCompleteSendsEveryFile)
         bodies << randomBytes(1000 + i * 70000, quint32(i));
     int next = 1;
     QStringList order;
+    int deepest = 0;
     QObject::connect(&engine, &FtpEngine::SendComplete, &engine, [&] {
         order << QStringLiteral("complete");
+        deepest = std::max(deepest, engine.activeWaits());
         if (next < names.size()) {
             const int i = next++;
             engine.SendFile(files.path() + QLatin1Char('/') + names[i], server->upload(names[i]));
@@ -196,6 +198,8 @@ TEST_P(EngineAgainstServer, AQueueDrivenBySendCompleteSendsEveryFile)
     for (int i = 0; i < names.size(); ++i)
         EXPECT_TRUE(spinUntil([&] { return server->readFile(server->upload(names[i])) == bodies[i]; })) << names[i].toStdString();
     EXPECT_EQ(engine.activeWaits(), 0);
+    // Each next file waits in the frame of the one before, not on top of it.
+    EXPECT_EQ(deepest, 1);
 }
 
 TEST_P(EngineAgainstServer, ServerClosingTheControlConnectionEndsTheWait)
