@@ -9,6 +9,7 @@
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
+#include "ftp/ftpnormal.h"
 #include "report/frmReport.h"
 #include "spelling/clsSpell.h"
 #include "shell/AboutFORM.h"
@@ -142,6 +143,7 @@ void Main()
     registerDocumentCommands();
     registerReportForms();
     registerSpellingForms();
+    registerFtpForms();
     // Last: the menu's own branches fill in what the windows above have not claimed.
     registerMenuCommands();
 

@@ -1,0 +1,383 @@
+#include "ftp/FtpEngine.h"
+
+#include "platform/TextFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QHostAddress>
+#include <QPointer>
+#include <QTcpSocket>
+
+std::function<void(const QString&)> FtpEngine::showFolder;
+
+namespace {
+const QString crlf = QStringLiteral("\r\n");
+}
+
+int winsockErrorNumber(int socketError)
+{
+    switch (static_cast<QAbstractSocket::SocketError>(socketError)) {
+    case QAbstractSocket::ConnectionRefusedError: return 10061;
+    case QAbstractSocket::RemoteHostClosedError: return 10054;
+    case QAbstractSocket::HostNotFoundError: return 11001;
+    case QAbstractSocket::SocketAccessError: return 10013;
+    case QAbstractSocket::SocketResourceError: return 10055;
+    case QAbstractSocket::SocketTimeoutError: return 10060;
+    case QAbstractSocket::NetworkError: return 10050;
+    case QAbstractSocket::AddressInUseError: return 10048;
+    case QAbstractSocket::SocketAddressNotAvailableError: return 10049;
+    case QAbstractSocket::UnsupportedSocketOperationError: return 10045;
+    default: return 10000;
+    }
+}
+
+FtpEngine::FtpEngine(QObject* parent) : QObject(parent), control(new QTcpSocket(this)), data(new QTcpSocket(this))
+{
+    control->setObjectName(QStringLiteral("Winsock1"));
+    data->setObjectName(QStringLiteral("Winsock2"));
+    connect(control, &QTcpSocket::readyRead, this, &FtpEngine::controlReadyRead);
+    connect(control, &QTcpSocket::disconnected, this, &FtpEngine::controlClosed);
+    connect(control, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError e) { controlError(e); });
+    connect(data, &QTcpSocket::connected, this, &FtpEngine::dataConnected);
+    connect(data, &QTcpSocket::readyRead, this, &FtpEngine::dataReadyRead);
+    connect(data, &QTcpSocket::disconnected, this, &FtpEngine::dataClosed);
+    connect(data, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError e) { dataError(e); });
+    connect(data, &QTcpSocket::bytesWritten, this, &FtpEngine::dataBytesWritten);
+}
+
+FtpEngine::~FtpEngine()
+{
+    // End every wait still on the stack and close both channels quietly.
+    ++session;
+    closingControl = closingData = true;
+    control->abort();
+    data->abort();
+    download.reset();
+    upload.reset();
+}
+
+bool FtpEngine::isConnected() const { return control->state() == QAbstractSocket::ConnectedState; }
+
+QString FtpEngine::downloadPath() { return QDir::tempPath() + QStringLiteral("/downme"); }
+
+bool FtpEngine::waitUntil(const std::function<bool()>& done)
+{
+    const quint64 mine = session;
+    QPointer<FtpEngine> self(this);
+    ++waits;
+    for (;;) {
+        // A closed connection ends the wait before the condition is looked at again.
+        if (session != mine) {
+            --waits;
+            return false;
+        }
+        if (done()) {
+            --waits;
+            return true;
+        }
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (!self)  // the owner went away while we yielded
+            return false;
+    }
+}
+
+bool FtpEngine::FtpConnect(const QString& host, const QString& user, const QString& password)
+{
+    Q_EMIT busy(true);
+    QPointer<FtpEngine> self(this);
+    const auto done = [&](bool ok) {
+        if (self)
+            Q_EMIT busy(false);
+        return ok;
+    };
+    FtpDisconnect();
+    control->connectToHost(host, serverPort);
+    const bool up = waitUntil([this] {
+        Q_EMIT statusText(QStringLiteral("Connecting to Server ...."));
+        return control->state() == QAbstractSocket::ConnectedState;
+    });
+    if (!up)
+        return done(false);
+    Q_EMIT controlConnected();
+
+    qint16 result = 0;
+    if (!FtpSendCommand(QStringLiteral("USER ") + user, result))
+        return done(false);
+    if (result == 0) {
+        if (!FtpSendCommand(QStringLiteral("PASS ") + password, result))
+            return done(false);
+        if (result != 0) {
+            // Never reached in practice: the wait above ends only on the awaited code.
+            Q_EMIT message(QStringLiteral("PASS Error"), 16, QString());
+            return done(false);
+        }
+    } else {
+        Q_EMIT message(QStringLiteral("USER error"), 16, QString());
+    }
+    const bool in = waitUntil([this] { return replyCode == 230; });
+    return done(in);
+}
+
+void FtpEngine::FtpDisconnect() { disconnectSteps(false); }
+
+void FtpEngine::CutConnection() { disconnectSteps(true); }
+
+void FtpEngine::disconnectSteps(bool withUpload)
+{
+    ++session;
+    closingControl = true;
+    control->abort();
+    closingControl = false;
+    closeData();
+    // What a cut connection left half-received must not prefix the next server's banner.
+    buffer.clear();
+    Q_EMIT statusText(QStringLiteral("Disconnected from Server"));
+    Q_EMIT serverDown(withUpload);
+}
+
+void FtpEngine::closeData()
+{
+    uploading = false;
+    upload.reset();
+    uploadLeft = uploadUnsent = 0;
+    download.reset();
+    closingData = true;
+    data->abort();
+    closingData = false;
+}
+
+bool FtpEngine::FtpSendCommand(const QString& command)
+{
+    qint16 result = 0;
+    return FtpSendCommand(command, result);
+}
+
+bool FtpEngine::FtpSendCommand(const QString& command, qint16& result)
+{
+    if (control->state() != QAbstractSocket::ConnectedState) {
+        Q_EMIT runtimeError(40006, QStringLiteral("Wrong protocol or connection state for the requested transaction or request"));
+        return false;
+    }
+    control->write(TextFiles::encode(command + crlf));
+    tag1 = FtpReply::verbOf(command);
+    const FtpReply::VerbEntry entry = FtpReply::lookUp(tag1);
+    if (!entry.dataTag.isEmpty())
+        tag2 = entry.dataTag;
+    if (entry.awaited != 0) {
+        if (!waitUntil([this, &entry] { return replyCode == entry.awaited || (entry.alike != 0 && replyCode == entry.alike); }))
+            return false;
+    }
+    if (entry.second != 0 && replyCode == entry.second)
+        result = entry.second;
+    tag1.clear();
+    replyCode = 0;
+    return true;
+}
+
+void FtpEngine::controlReadyRead()
+{
+    Q_EMIT statusText(QStringLiteral("Connected to Server"));
+    Q_EMIT serverUp();
+    const QByteArray bytes = control->readAll();
+    received = bytes.size();
+    Q_EMIT controlDetails();
+    for (const QString& line : buffer.append(bytes))
+        handleLine(line);
+}
+
+void FtpEngine::handleLine(const QString& line)
+{
+    replyCode = FtpReply::replyCode(line);
+    if (replyCode == 227) {
+        const FtpReply::Passive p = FtpReply::parsePassive(line);
+        if (p.ok) {
+            closeData();
+            data->connectToHost(control->peerAddress(), p.port);
+        } else {
+            Q_EMIT runtimeError(p.errorNumber, p.errorDescription);
+        }
+    }
+    Q_EMIT replyLine(line);
+}
+
+void FtpEngine::controlClosed()
+{
+    if (closingControl)
+        return;
+    disconnectSteps(true);
+}
+
+void FtpEngine::controlError(int socketError)
+{
+    // A remote close is the close event, not an error.
+    if (closingControl || socketError == QAbstractSocket::RemoteHostClosedError)
+        return;
+    Q_EMIT message(QStringLiteral("Error: ") + QString::number(winsockErrorNumber(socketError)) + QStringLiteral("\r") +
+                       control->errorString() + QStringLiteral(", Connection Will be cut off."),
+                   0, QStringLiteral("Winsock1 Error:"));
+    disconnectSteps(true);
+}
+
+void FtpEngine::dataConnected()
+{
+    if (tag2 == QLatin1String("RETR") && !download) {
+        download = std::make_unique<QFile>(downloadPath());
+        // Opened for writing without truncation: a shorter download leaves the tail of a longer one.
+        if (!download->open(QIODevice::ReadWrite))
+            download.reset();
+    }
+    pump();
+}
+
+void FtpEngine::dataReadyRead()
+{
+    const QByteArray bytes = data->readAll();
+    if (tag2 == QLatin1String("LIST")) {
+        Q_EMIT listingData(TextFiles::decode(bytes));
+    } else if (tag2 == QLatin1String("RETR")) {
+        if (!download)
+            dataConnected();
+        if (download)
+            download->write(bytes);
+    }
+}
+
+void FtpEngine::dataClosed()
+{
+    if (closingData)
+        return;
+    if (data->bytesAvailable() > 0)
+        dataReadyRead();
+    const bool retrieved = tag2 == QLatin1String("RETR");
+    if (retrieved)
+        download.reset();
+    tag2.clear();
+    closeData();
+    if (retrieved && showFolder)
+        showFolder(QDir::tempPath());
+}
+
+void FtpEngine::dataError(int socketError)
+{
+    if (closingData || socketError == QAbstractSocket::RemoteHostClosedError)
+        return;
+    const int number = winsockErrorNumber(socketError);
+    const QString description = data->errorString();
+    uploading = false;
+    Q_EMIT message(QStringLiteral("Error: ") + QString::number(number) + QStringLiteral("\r") + description +
+                       QStringLiteral(", Connection Will be cut off."),
+                   0, QStringLiteral("Winsock2 Error:"));
+    Q_EMIT Winsock2Error(number, description);
+    closeData();
+}
+
+void FtpEngine::SendFile(const QString& source, const QString& remoteName)
+{
+    // The queue asks for the next file from inside the wait of the one before (on its
+    // SendComplete). Running it right there would stack one wait on another for every file of
+    // a long queue; it is kept instead and sent by the running call as soon as that call's
+    // 226 has come, so the stack stays flat and the next file's commands follow the 226.
+    if (sending) {
+        deferred = {source, remoteName};
+        deferredSession = session;
+        hasDeferred = true;
+        return;
+    }
+    sending = true;
+    QPointer<FtpEngine> self(this);
+    QString src = source;
+    QString remote = remoteName;
+    for (;;) {
+        sendOne(src, remote);
+        if (!self)
+            return;
+        if (!hasDeferred || deferredSession != session)
+            break;
+        hasDeferred = false;
+        src = deferred.first;
+        remote = deferred.second;
+    }
+    hasDeferred = false;
+    sending = false;
+}
+
+void FtpEngine::sendOne(const QString& source, const QString& remoteName)
+{
+    if (source.isEmpty()) {
+        Q_EMIT message(QStringLiteral("File Needed!!"), 0, QString());
+        return;
+    }
+    if (!FtpSendCommand(QStringLiteral("TYPE I")) || !FtpSendCommand(QStringLiteral("PASV")) ||
+        !FtpSendCommand(QStringLiteral("STOR ") + remoteName))
+        return;
+    // The file is read piece by piece as the socket drains; one that cannot be read is sent
+    // as what could be read of it: nothing.
+    upload = std::make_unique<QFile>(source);
+    const qint64 size = upload->open(QIODevice::ReadOnly) ? upload->size() : 0;
+    uploadLeft = uploadUnsent = size;
+    uploading = true;
+    pump();
+    waitUntil([this] { return replyCode == 226; });
+}
+
+void FtpEngine::pump()
+{
+    if (!uploading || data->state() != QAbstractSocket::ConnectedState)
+        return;
+    while (uploadLeft > 0 && data->bytesToWrite() < bufferLimit) {
+        const qint64 want = std::min(chunkSize, uploadLeft);
+        QByteArray piece(want, Qt::Uninitialized);
+        const qint64 got = upload->read(piece.data(), want);
+        if (got <= 0) {  // the file shrank or failed: what was read is all there is
+            uploadUnsent -= uploadLeft;
+            uploadLeft = 0;
+            break;
+        }
+        if (got < want)
+            piece.truncate(got);
+        uploadLeft -= got;
+        data->write(piece);
+    }
+    if (uploadLeft == 0 && data->bytesToWrite() == 0)
+        finishUpload();
+}
+
+void FtpEngine::dataBytesWritten(qint64 n)
+{
+    if (!uploading)
+        return;
+    uploadUnsent -= n;
+    Q_EMIT SendProgress(n, uploadUnsent);
+    pump();
+}
+
+void FtpEngine::finishUpload()
+{
+    uploading = false;
+    upload.reset();
+    // Raised from the event loop rather than from inside the socket's own signal: the next
+    // file reuses this socket, and a socket does not report writes from within its own report.
+    const quint64 mine = session;
+    QMetaObject::invokeMethod(
+        this,
+        [this, mine] {
+            if (session != mine)
+                return;
+            closeData();
+            Q_EMIT SendComplete();
+        },
+        Qt::QueuedConnection);
+}
+
+void FtpEngine::ViewFiles()
+{
+    if (FtpSendCommand(QStringLiteral("PASV")))
+        FtpSendCommand(QStringLiteral("LIST"));
+}
+
+void FtpEngine::Retrieve(const QString& commandText)
+{
+    if (FtpSendCommand(QStringLiteral("PASV")))
+        FtpSendCommand(commandText);
+}

@@ -1,0 +1,118 @@
+#include "ftp/FtpProfiles.h"
+
+#include "platform/App.h"
+#include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
+#include "shell/FieldReader.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace FtpProfiles {
+namespace {
+constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+// Reads lines as the line-input statement does: CR LF, CR or LF ends a line.
+QStringList splitLines(const QString& text)
+{
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype n = text.size();
+    qsizetype i = 0;
+    while (i < n) {
+        const QChar c = text[i];
+        if (c == QLatin1Char('\r') || c == QLatin1Char('\n')) {
+            lines.append(text.mid(start, i - start));
+            if (c == QLatin1Char('\r') && i + 1 < n && text[i + 1] == QLatin1Char('\n'))
+                ++i;
+            start = i + 1;
+        }
+        ++i;
+    }
+    if (start < n)
+        lines.append(text.mid(start));
+    return lines;
+}
+}
+
+QString folder() { return App::path() + QStringLiteral("/Options/FTP"); }
+QString indexPath() { return folder() + QStringLiteral("/Main.DAT"); }
+QString profilePath(const QString& name) { return folder() + QLatin1Char('/') + name + QStringLiteral(".DAT"); }
+
+QStringList readIndex()
+{
+    bool ok = false;
+    const QString text = TextFiles::readText(indexPath(), &ok);
+    return ok ? splitLines(text) : QStringList();
+}
+
+bool ensureIndex() { return TextFiles::createIfMissing(indexPath()); }
+
+bool appendIndex(const QString& name)
+{
+    QDir().mkpath(folder());
+    QFile f(indexPath());
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Append))
+        return false;
+    return f.write(TextFiles::encode(name + QStringLiteral("\r\n"))) >= 0;
+}
+
+bool rewriteIndex(const QStringList& names)
+{
+    QString text;
+    for (const QString& n : names)
+        text += n + QStringLiteral("\r\n");
+    QFile::remove(indexPath());
+    QDir().mkpath(folder());
+    QFile f(indexPath());
+    if (!f.open(QIODevice::WriteOnly))
+        return false;
+    return f.write(TextFiles::encode(text)) >= 0;
+}
+
+QByteArray profileText(const Profile& p)
+{
+    const QString text = QStringLiteral("##### FTP PROFILE START #####\r\n") + p.name + QStringLiteral("\r\n") + p.address +
+                         QStringLiteral("\r\n") + p.username + QStringLiteral("\r\n") + p.password + QStringLiteral("\r\n") +
+                         p.date + QStringLiteral("\r\n##### FTP PROFILE END #####\r\n");
+    return TextFiles::encode(text);
+}
+
+bool writeProfile(const Profile& p)
+{
+    QDir().mkpath(folder());
+    const QString path = profilePath(p.name);
+    QFile::remove(path);
+    QFile f(path);
+    // Made owner-only from the start, so the password is never readable by others, not even
+    // for a moment.
+    if (!f.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly))
+        return false;
+    const bool ok = f.write(profileText(p)) >= 0;
+    f.close();
+    QFile::setPermissions(path, ownerOnly);
+    return ok;
+}
+
+bool readProfile(const QString& name, Profile& p)
+{
+    bool ok = false;
+    const QString text = TextFiles::readText(profilePath(name), &ok);
+    if (!ok)
+        return false;
+    FieldReader reader(text);
+    try {
+        reader.next();  // the start marker
+        Profile read;
+        read.name = reader.next();
+        read.address = reader.next();
+        read.username = reader.next();
+        read.password = reader.next();
+        read.date = reader.next();
+        p = read;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+    return true;
+}
+}
