@@ -30,6 +30,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <memory>
 #include <sys/stat.h>
 
 namespace {
@@ -45,6 +46,7 @@ protected:
     void TearDown() override
     {
         ftpadvanced::setPortForTesting(21);
+        FtpEngine::showFolder = [](const QString&) {};  // drop any hook that points into the test
         WindowTest::TearDown();
     }
     ftpnormal* upload() { return static_cast<ftpnormal*>(Forms::get(QStringLiteral("ftpnormal"))); }
@@ -102,13 +104,13 @@ protected:
 void whenTrue(QObject* owner, std::function<bool()> condition, std::function<void()> action, int deadlineMs = 30000)
 {
     auto* timer = new QTimer(owner);
-    auto* clock = new QElapsedTimer;
+    // Shared with the connection, so it goes with the timer whether or not it ever fired.
+    auto clock = std::make_shared<QElapsedTimer>();
     clock->start();
     QObject::connect(timer, &QTimer::timeout, owner, [=] {
         if (condition() || clock->elapsed() > deadlineMs) {
             timer->stop();
             timer->deleteLater();
-            delete clock;
             action();
         }
     });
@@ -634,4 +636,29 @@ TEST_F(FtpWindowDataErrorTest, AFailedLastFileCutsTheWholeConnection)
     EXPECT_EQ(w->panelText(2), QStringLiteral("Disconnected from Server"));
     EXPECT_EQ(w->serverShapeColour(), 255);
     EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
+}
+
+TEST_F(FtpWindowTest, ProgressCountsUpToTheFileSizeAndNoFurther)
+{
+    ftpnormal* w = upload();
+    w->addFile(QStringLiteral("ten.txt"), localFile(QStringLiteral("ten.txt"), "0123456789"));
+    // Not connected: the send's first command is the platform's run-time error, nothing else.
+    prompts.answerMsgBox(Answer::OK);
+    w->Command2->click();
+    EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("Run-time error '40006':"))) << prompts.last().text.toStdString();
+    EXPECT_EQ(w->lblfileuploading->text(), QStringLiteral("ten.txt"));
+    EXPECT_EQ(w->lblsize->text(), QStringLiteral("10"));
+    EXPECT_EQ(advanced()->Text8->text(), folder.file(QStringLiteral("queue/ten.txt")));
+    EXPECT_EQ(advanced()->Text11->text(), QStringLiteral("ten.txt"));
+    EXPECT_EQ(w->ProgressBar2->maximum(), 10);
+    EXPECT_EQ(w->ProgressBar2->value(), 0);
+
+    w->onSendProgress(6, 4);
+    EXPECT_EQ(w->ProgressBar2->value(), 6);
+    EXPECT_EQ(w->panelText(3), QStringLiteral("Progress :: Sent 6 bytes of 10"));
+    w->onSendProgress(4, 0);
+    EXPECT_EQ(w->panelText(3), QStringLiteral("Progress :: Sent 10 bytes of 10"));
+    w->onSendProgress(1, 0);
+    EXPECT_EQ(w->ProgressBar2->value(), 10);
+    EXPECT_EQ(w->panelText(3), QStringLiteral("Sent 10bytes of 10"));
 }
