@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSet>
 #include <QToolButton>
 #include <QToolBar>
 #include <QUrl>
@@ -344,6 +345,40 @@ TEST_F(MainMenuTest, CheckHtmlTagsOpensTheReportEmptyFromMenuAndBar)
     report->hide();
     main->Picture[4]->findChild<QToolButton*>(QStringLiteral("SmartNetButton31"))->click();
     EXPECT_TRUE(report->isVisible());
+}
+
+// Every key of the table, run in a page, in a notepad and with no document: whatever prompts
+// come are cancelled, nothing reaches the desktop, and the program is still there afterwards.
+TEST_F(MainMenuTest, EveryKeyRunsInEachKindOfWindowWithoutHarm)
+{
+    ScriptedPrompts::setFailureHandler([](const QString&) {});
+    int desktop = 0;
+    Desktop::setHandler({[&](const QUrl&) { return ++desktop, false; },
+                         [&](const QString&, const QStringList&) { return ++desktop, false; }});
+    const QSet<QString> skip = {QStringLiteral("Exit")};  // ends the program
+    for (int context = 0; context < 3; ++context) {
+        for (const MenuEntry& e : menuTable()) {
+            if (skip.contains(e.key))
+                continue;
+            // No document: each left over is closed without saving.
+            while (context == 2 && !main->documents().isEmpty()) {
+                prompts.clear();
+                prompts.answerMsgBox(Answer::No);
+                ASSERT_TRUE(Forms::unload(main->documents().first())) << e.key.toStdString();
+                processEvents();
+            }
+            if (context == 0 && (main->documents().isEmpty() || main->ActiveForm()->Tag() == QLatin1String("Pad")))
+                page(QStringLiteral("<p>text</p>"));
+            if (context == 1 && (main->documents().isEmpty() || main->ActiveForm()->Tag() != QLatin1String("Pad")))
+                pad();
+            main->MenuClick(e.key);
+            processEvents();
+            ASSERT_EQ(frmMain::loaded(), main) << e.key.toStdString();
+        }
+    }
+    Desktop::setHandler({});
+    ScriptedPrompts::setFailureHandler([](const QString& msg) { ADD_FAILURE() << msg.toStdString(); });
+    EXPECT_GT(desktop, 0);  // the online items asked for the browser
 }
 
 TEST_F(MainMenuTest, DisabledItemsNeverRun)
