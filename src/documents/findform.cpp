@@ -121,7 +121,13 @@ void findform::say(const QString& text)
     MsgBox(text);
 }
 
-void findform::Form_Activate() { refreshCopy(false); }
+void findform::Form_Activate()
+{
+    // The older start window is loaded here, and stays hidden.
+    if (Forms::hasFactory(QStringLiteral("Form2")))
+        Forms::get(QStringLiteral("Form2"))->hide();
+    refreshCopy(false);
+}
 
 void findform::refreshCopy(bool always)
 {

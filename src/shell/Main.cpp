@@ -17,6 +17,7 @@
 #include "shell/MenuCommands.h"
 #include "shell/Options.h"
 #include "platform/FileControls.h"
+#include "shell/Form2.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -35,6 +36,7 @@ void registerShellForms()
     Forms::registerFactory(QStringLiteral("frmMain"), [] { return new frmMain; });
     Forms::registerFactory(QStringLiteral("Options"), [] { return new Options; });
     Forms::registerFactory(QStringLiteral("Startup"), [] { return new Startup; });
+    Forms::registerFactory(QStringLiteral("Form2"), [] { return new Form2; });
     Forms::registerFactory(QStringLiteral("AboutFORM"), [] { return new AboutFORM; });
     Forms::registerFactory(QStringLiteral("AppProperties"), [] { return new AppProperties; });
 }

@@ -9,6 +9,8 @@
 #include "platform/FindReplaceDialog.h"
 #include "platform/Forms.h"
 #include "platform/RichTextBox.h"
+#include "platform/CheckValue.h"
+#include "shell/Options.h"
 #include "shell/frmMain.h"
 
 #include <QCheckBox>
@@ -122,6 +124,19 @@ TEST_F(FindFormTest, FindWindowIsOneInstanceWithItsControls)
     EXPECT_TRUE(prompts.prompts().isEmpty());
     showFind();
     saveShot(w, QStringLiteral("findform"));
+}
+
+TEST_F(FindFormTest, ActivatingFindLoadsTheOlderStartWindowHiddenWithTheStyleChoice)
+{
+    setCheckValue(form<Options>()->CSS, 1);
+    EXPECT_FALSE(Forms::isLoaded(QStringLiteral("Form2")));
+    showFind();
+    qobject_cast<findform*>(Forms::get(QStringLiteral("findform")))->Form_Activate();
+    ASSERT_TRUE(Forms::isLoaded(QStringLiteral("Form2")));
+    QWidget* old = Forms::find(QStringLiteral("Form2"));
+    EXPECT_FALSE(old->isVisible());
+    EXPECT_EQ(old->windowTitle(), QStringLiteral("New Form Properties ::"));
+    EXPECT_TRUE(old->findChild<QCheckBox*>(QStringLiteral("Check3"))->isChecked());
 }
 
 TEST_F(FindFormTest, GoToWindowIsOneInstanceWithItsControls)
