@@ -90,6 +90,10 @@ void saveShot(QWidget* w, const QString& name)
         QThread::msleep(30);
     }
     // A whole window is taken from the screen, which also has what the browser drew.
-    const QPixmap shot = w->isWindow() && w->screen() ? w->screen()->grabWindow(w->winId()) : w->grab();
+    QPixmap shot = w->isWindow() && w->screen() ? w->screen()->grabWindow(w->winId()) : w->grab();
+    // A window the screen did not show yet (a dialog without a window manager) paints itself.
+    const QImage image = shot.toImage();
+    if (image.isNull() || image.colorCount() == 1 || image.convertToFormat(QImage::Format_Indexed8).colorCount() <= 1)
+        shot = w->grab();
     shot.save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
 }

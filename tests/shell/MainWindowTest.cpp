@@ -163,8 +163,14 @@ TEST_F(StartScreenTest, TasksOfWindowsThisBuildLacksAreGreyAndTheHeadingsStand)
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label33"))->text(), QStringLiteral("Web Options:"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label35"))->text(), QStringLiteral("Help :"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label4"))->text(), QStringLiteral("Create A Single  Web Page"));
+    s->show();
     QTest::mouseClick(s->findChild<QLabel*>(QStringLiteral("Label5")), Qt::LeftButton);
     EXPECT_TRUE(s->frframe->isVisibleTo(s));
     EXPECT_NE(s->Toolbar1, nullptr);
+    saveShot(s, QStringLiteral("startup-frame-set"));
+    s->showFrame(s->frsingle);
+    saveShot(s, QStringLiteral("startup-single"));
+    s->showFrame(s->CSSFrame);
+    saveShot(s, QStringLiteral("startup-links"));
 }
 }
