@@ -160,13 +160,13 @@ void frmMain::buildButtonBars()
         bar->setMovable(false);
         Picture[i] = bar;
         for (int j = 0; j < bars[i].second; ++j) {
-            const BarButton& spec = bars[i].first[j];
-            const QString key = QString::fromLatin1(spec.key);
-            const QString tip = QString::fromLatin1(spec.tip);
-            QToolButton* b = barButton(bar, spec.number, tip, key.isEmpty() ? tip : key);
+            const BarButton& entry = bars[i].first[j];
+            const QString key = QString::fromLatin1(entry.key);
+            const QString tip = QString::fromLatin1(entry.tip);
+            QToolButton* b = barButton(bar, entry.number, tip, key.isEmpty() ? tip : key);
             bar->addWidget(b);
             if (key.isEmpty()) {
-                connect(b, &QToolButton::clicked, this, Event(barOnlyCommand(spec.number)));
+                connect(b, &QToolButton::clicked, this, Event(barOnlyCommand(entry.number)));
             } else {
                 b->setEnabled(menuKeyRuns(key));
                 connect(b, &QToolButton::clicked, this, Event([this, key] { MenuClick(key); }));

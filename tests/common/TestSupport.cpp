@@ -1,5 +1,10 @@
 #include "common/TestSupport.h"
 
+#include "documents/frmDocument.h"
+#include "documents/notepad.h"
+#include "platform/CodeMax.h"
+#include "platform/RichTextBox.h"
+#include "shell/frmMain.h"
 #include "platform/App.h"
 #include "platform/Forms.h"
 #include "shell/Main.h"
@@ -57,6 +62,25 @@ void WindowTest::startWithoutPage()
                  "\"MS Sans Serif\"\r\n\"8\"\r\n\"Script\"\r\n\"12\"\r\n\"Comic Sans MS\"\r\n\"14\"\r\n"
                  "\"Lucida Console\"\r\n\"18\"\r\n\"Trebuchet MS\"\r\n\"24\"\r\n\".htm,.html\"\r\n\".htm\"\r\n1\r\n");
     Main();
+}
+
+frmDocument* WindowTest::newPage(const QString& text)
+{
+    auto* doc = new frmDocument;
+    frmMain::instance()->addDocument(doc);
+    doc->CodeMax1()->setText(text);
+    processEvents();
+    return doc;
+}
+
+notepad* WindowTest::newPad(const QString& text)
+{
+    auto* pad = new notepad;
+    pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
+    frmMain::instance()->addDocument(pad);
+    pad->RichTextBox1()->setText(text);
+    processEvents();
+    return pad;
 }
 
 void WindowTest::TearDown()

@@ -32,6 +32,9 @@ protected:
     // Runs the start-up with settings that make no first page and keep the start screen
     // hidden: the main window alone, as a test of a single window wants it.
     void startWithoutPage();
+    // A web page window or a notepad with this text, made the active child of the main window.
+    static class frmDocument* newPage(const QString& text = {});
+    static class notepad* newPad(const QString& text = {});
 
     TempAppFolder folder;
     ScriptedPrompts prompts;

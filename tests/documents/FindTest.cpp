@@ -28,23 +28,6 @@ class FindFormTest : public WindowTest {
 protected:
     void SetUp() override { startWithoutPage(); }
 
-    frmDocument* newPage(const QString& text)
-    {
-        auto* doc = new frmDocument;
-        frmMain::instance()->addDocument(doc);
-        doc->CodeMax1()->setText(text);
-        processEvents();
-        return doc;
-    }
-    notepad* newPad(const QString& text)
-    {
-        auto* pad = new notepad;
-        pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
-        frmMain::instance()->addDocument(pad);
-        pad->RichTextBox1()->setText(text);
-        processEvents();
-        return pad;
-    }
     // The window as the menu shows it: loaded on first touch, then shown (and activated).
     QWidget* showFind()
     {

@@ -52,21 +52,6 @@ void boldCommand()
 class InsertionTest : public WindowTest {
 protected:
     void SetUp() override { startWithoutPage(); }
-    frmDocument* newPage(const QString& text)
-    {
-        auto* doc = new frmDocument;
-        frmMain::instance()->addDocument(doc);
-        doc->CodeMax1()->setText(text);
-        return doc;
-    }
-    notepad* newPad(const QString& text)
-    {
-        auto* pad = new notepad;
-        pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
-        frmMain::instance()->addDocument(pad);
-        pad->RichTextBox1()->setText(text);
-        return pad;
-    }
     const QString refusal = QStringLiteral("You have a notepad document open, you need a web page open for this feature");
 };
 }

@@ -55,21 +55,6 @@ protected:
         EXPECT_NE(w, nullptr) << name;
         return w;
     }
-    frmDocument* newPage(const QString& text)
-    {
-        auto* doc = new frmDocument;
-        frmMain::instance()->addDocument(doc);
-        doc->CodeMax1()->setText(text);
-        return doc;
-    }
-    notepad* newPad(const QString& text)
-    {
-        auto* pad = new notepad;
-        pad->setCaption(QStringLiteral("Notepad [ 1 ]"));
-        frmMain::instance()->addDocument(pad);
-        pad->RichTextBox1()->setText(text);
-        return pad;
-    }
     // The item of a key; its branches are opened and it is scrolled into view so the mouse can
     // reach it.
     QTreeWidgetItem* item(QTreeWidget* tree, const QString& key)

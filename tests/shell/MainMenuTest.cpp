@@ -91,20 +91,8 @@ protected:
         startWithoutPage();
         main = frmMain::instance();
     }
-    frmDocument* page(const QString& text = QString())
-    {
-        auto* doc = new frmDocument;
-        main->addDocument(doc);
-        doc->CodeMax1()->setText(text);
-        return doc;
-    }
-    notepad* pad(const QString& text = QStringLiteral("plain note"))
-    {
-        auto* n = new notepad;
-        main->addDocument(n);
-        n->RichTextBox1()->setText(text);
-        return n;
-    }
+    frmDocument* page(const QString& text = QString()) { return newPage(text); }
+    notepad* pad(const QString& text = QStringLiteral("plain note")) { return newPad(text); }
     QAction* item(const QString& key) const
     {
         for (QAction* a : main->SmartMenuXP1->findChildren<QAction*>())
