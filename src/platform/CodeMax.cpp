@@ -13,6 +13,8 @@
 #include <Qsci/qscilexerxml.h>
 #include <Qsci/qscimacro.h>
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QFile>
 #include <climits>
 #include <QFileInfo>
@@ -43,6 +45,29 @@ qint64 utf8Characters(const char* text, int length)
     return n;
 }
 
+// QScintilla's accessible editor counts the characters from the start of the text to the caret
+// at every caret move. Without a screen reader at the time the editor is first asked for, a
+// plain accessible widget serves: it names the editor and costs nothing.
+QAccessibleInterface* plainEditorAccessible(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("CodeMax") || !object->isWidgetType() || QAccessible::isActive())
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::EditableText);
+}
+
+void installPlainAccessible()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(plainEditorAccessible);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
+// Notices of changes about to be made, and nothing else: no notice after a change reaches
+// QScintilla's handlers.
+constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
+
 QColor fromPlatformColour(int c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 }
 
@@ -57,22 +82,99 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
     setEolMode(EolWindows);
     setTabWidth(4);
     setBraceMatching(SloppyBraceMatch);
-    // Colouring a long text goes on while the editor is idle, after the visible part.
-    SendScintilla(SCI_SETIDLESTYLING, SC_IDLESTYLING_ALL);
+    // The screen is coloured in short steps while the editor is idle, so a jump far down a big
+    // page shows at once; text beyond the screen is coloured when it is shown, so a key near
+    // the top does not set off colouring the whole rest of the page again.
+    SendScintilla(SCI_SETIDLESTYLING, SC_IDLESTYLING_TOVISIBLE);
+    installPlainAccessible();
     // The character count follows each change, so the status line costs nothing per key
     // however long the text is.
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
-            [this](int, int type, const char* text, int length, int, int, int, int, int, int) {
-                if (!(type & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)))
-                    return;
-                if (text)
-                    characters += (type & SC_MOD_INSERTTEXT ? 1 : -1) * utf8Characters(text, length);
-                Q_EMIT Change();
+            [this](int position, int type, const char* text, int length, int, int, int, int, int, int) {
+                textModified(position, type, text, length);
             });
     connect(this, &QsciScintilla::linesChanged, this, &CodeMax::updateLineNumberWidth);
 }
 
 CodeMax::~CodeMax() { delete recording; }
+
+void CodeMax::textModified(int position, int type, const char* text, int length)
+{
+    if (quiet) {
+        if (type & SC_MOD_BEFOREINSERT) {
+            if (text)
+                characters += utf8Characters(text, length);
+            else
+                recount = true;
+        } else if (type & SC_MOD_BEFOREDELETE) {
+            // The text to go is still there to count; all of it is simply all characters.
+            if (position == 0 && length == SendScintilla(SCI_GETLENGTH))
+                characters = 0;
+            else
+                characters -= SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(position),
+                                            static_cast<long>(position + length));
+        } else {
+            return;
+        }
+        // The change is not done yet: tell it once it is, here or at the next turn of the loop.
+        if (!changePending) {
+            changePending = true;
+            QMetaObject::invokeMethod(this, &CodeMax::changeDone, Qt::QueuedConnection);
+        }
+        return;
+    }
+    if (!(type & (SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT)))
+        return;
+    if (text)
+        characters += (type & SC_MOD_INSERTTEXT ? 1 : -1) * utf8Characters(text, length);
+    if (SendScintilla(SCI_GETLENGTH) > quietAbove)
+        setQuiet(true);
+    Q_EMIT Change();
+}
+
+void CodeMax::setQuiet(bool on)
+{
+    if (quiet == on)
+        return;
+    quiet = on;
+    SendScintilla(SCI_SETMODEVENTMASK, static_cast<unsigned long>(on ? beforeChangeNotices : SC_MODEVENTMASKALL));
+}
+
+void CodeMax::changeDone()
+{
+    const long bytes = SendScintilla(SCI_GETLENGTH);
+    if (recount) {
+        recount = false;
+        characters = SendScintilla(SCI_COUNTCHARACTERS, 0UL, bytes);
+    }
+    setQuiet(bytes > quietAbove);
+    if (!changePending)
+        return;
+    changePending = false;
+    // QScintilla tells of new lines only after a change, which it did not hear of.
+    updateLineNumberWidth();
+    Q_EMIT Change();
+}
+
+void CodeMax::keyPressEvent(QKeyEvent* e)
+{
+    QsciScintilla::keyPressEvent(e);
+    changeDone();
+}
+
+void CodeMax::inputMethodEvent(QInputMethodEvent* e)
+{
+    QsciScintilla::inputMethodEvent(e);
+    changeDone();
+}
+
+void CodeMax::setText(const QString& text)
+{
+    // Assigning a big text would be counted twice over by the notice after it.
+    setQuiet(true);
+    QsciScintilla::setText(text);
+    changeDone();
+}
 
 QString CodeMax::SelText() const { return selectedText(); }
 
@@ -84,6 +186,7 @@ void CodeMax::setSelText(const QString& text)
     replaceSelectedText(text);
     const long end = start + text.toUtf8().size();
     SendScintilla(SCI_SETSEL, start, end);
+    changeDone();
 }
 
 int CodeMax::SelLength() const { return selectedText().size(); }
@@ -185,54 +288,30 @@ void CodeMax::OpenFile(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("CodeMax.OpenFile"));
-    // UTF-8 goes into the editor piece by piece as it is read: no whole copy of the file, none
-    // as wide text and none in the undo history, which a big file cannot afford. Loading is not
-    // an edit to undo.
+    // The file goes into the editor piece by piece as it is read: no whole copy of it, none as
+    // wide text and none in the undo history, which a big file cannot afford. Loading is not an
+    // edit to undo. The pieces are counted as they go in and told as one change.
     SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+    setQuiet(true);
     SendScintilla(SCI_CLEARALL);
-    // The pieces are one change to the rest of the program: it hears of the whole text once.
-    const bool wasBlocked = blockSignals(true);
-    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(file.size() + 1, INT_MAX)));
+    // Room for the file and for typing after it: a buffer grown at the first key is copied whole.
+    const qint64 room = file.size() + file.size() / 16 + 4096;
+    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(room, INT_MAX)));
     constexpr qint64 piece = 16 << 20;
-    QByteArray carry;  // the start of a character cut by the end of a piece
-    bool utf8 = true;
-    while (utf8 && !file.atEnd()) {
-        QByteArray chunk = carry + file.read(piece);
-        // Hold back an incomplete sequence at the end for the next piece.
-        qsizetype cut = chunk.size();
-        for (qsizetype back = 1; back <= 3 && back <= chunk.size(); ++back) {
-            const auto b = static_cast<unsigned char>(chunk[chunk.size() - back]);
-            if ((b & 0xC0) == 0x80)
-                continue;
-            const int need = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC0 ? 2 : 1;
-            if (need > back)
-                cut = chunk.size() - back;
-            break;
-        }
-        carry = chunk.mid(cut);
-        chunk.truncate(cut);
-        if (!QByteArrayView(chunk).isValidUtf8()) {
-            utf8 = false;
-            break;
-        }
-        SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(chunk.size()), chunk.constData());
+    QByteArray held;  // the start of a character cut by the end of a piece
+    while (!file.atEnd()) {
+        const QByteArray text = TextFiles::toEditorText(held + file.read(piece), &held);
+        SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.constData());
     }
-    if (!carry.isEmpty())
-        utf8 = false;  // the file ends inside a character
-    blockSignals(wasBlocked);
-    if (utf8) {
-        const long bytes = SendScintilla(SCI_GETLENGTH);
-        characters = SendScintilla(SCI_COUNTCHARACTERS, 0UL, bytes);
-        updateLineNumberWidth();
-        Q_EMIT Change();
-    } else {
-        // Not UTF-8: the whole file again, as text with the fallback for other bytes.
-        file.seek(0);
-        setText(TextFiles::decode(file.readAll()));
+    if (!held.isEmpty()) {  // the file ends inside a character
+        const QByteArray text = TextFiles::toEditorText(held);
+        SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.constData());
     }
     SendScintilla(SCI_EMPTYUNDOBUFFER);
     SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
     SendScintilla(SCI_GOTOPOS, 0UL);
+    changePending = true;  // even an empty file replaces what was there
+    changeDone();
 }
 
 void CodeMax::SaveFile(const QString& path, bool overwrite)

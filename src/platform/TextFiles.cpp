@@ -45,6 +45,54 @@ int utf8Sequence(const unsigned char* p, qsizetype left)
     }
     return 0;
 }
+
+void appendUtf8(QByteArray& out, char16_t c)
+{
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+// Each well-formed sequence as it is, each byte that is not one as Windows-1252.
+QByteArray repaired(const QByteArray& bytes)
+{
+    QByteArray out;
+    out.reserve(bytes.size() + bytes.size() / 8);
+    const auto* p = reinterpret_cast<const unsigned char*>(bytes.constData());
+    const qsizetype n = bytes.size();
+    for (qsizetype i = 0; i < n;) {
+        const int len = utf8Sequence(p + i, n - i);
+        if (len == 0) {
+            appendUtf8(out, cp1252(p[i]).unicode());
+            ++i;
+        } else {
+            out.append(bytes.constData() + i, len);
+            i += len;
+        }
+    }
+    return out;
+}
+
+// Where a last sequence starts that the bytes end before it is complete (the size when none).
+qsizetype incompleteTail(const QByteArray& bytes)
+{
+    const qsizetype n = bytes.size();
+    for (qsizetype back = 1; back <= 3 && back <= n; ++back) {
+        const auto b = static_cast<unsigned char>(bytes[n - back]);
+        if ((b & 0xC0) == 0x80)
+            continue;
+        const int need = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC0 ? 2 : 1;
+        return need > back ? n - back : n;
+    }
+    return n;
+}
 }
 
 namespace TextFiles {
@@ -56,21 +104,19 @@ QString decode(const QByteArray& bytes)
     if (!utf8.hasError())
         return s;
     // Mixed text: each well-formed sequence as UTF-8, each byte that is not one as Windows-1252.
-    QString out;
-    out.reserve(bytes.size());
-    const auto* p = reinterpret_cast<const unsigned char*>(bytes.constData());
-    const qsizetype n = bytes.size();
-    for (qsizetype i = 0; i < n;) {
-        const int len = utf8Sequence(p + i, n - i);
-        if (len == 0) {
-            out += cp1252(p[i]);
-            ++i;
-        } else {
-            out += QString::fromUtf8(reinterpret_cast<const char*>(p + i), len);
-            i += len;
-        }
+    return QString::fromUtf8(repaired(bytes));
+}
+
+QByteArray toEditorText(QByteArray bytes, QByteArray* held)
+{
+    if (held) {
+        const qsizetype cut = incompleteTail(bytes);
+        *held = bytes.mid(cut);
+        bytes.truncate(cut);
     }
-    return out;
+    if (QByteArrayView(bytes).isValidUtf8())
+        return bytes;
+    return repaired(bytes);
 }
 
 QByteArray encode(const QString& text) { return text.toUtf8(); }

@@ -7,6 +7,11 @@
 namespace TextFiles {
 QString decode(const QByteArray& bytes);
 QByteArray encode(const QString& text);
+// Bytes of a file as the editor holds text, UTF-8, read as decode() reads them: well-formed
+// UTF-8 as it is, every other byte as Windows-1252. With `held`, a character cut by the end of
+// the bytes is left out and handed back there, to go in front of the next piece of the file;
+// piece by piece, the result is the same as for the whole file.
+QByteArray toEditorText(QByteArray bytes, QByteArray* held = nullptr);
 
 bool exists(const QString& path);
 // Creates the file empty when it is missing (the parent folder is made too). False on failure.
