@@ -37,10 +37,10 @@ QHash<QString, CodeMax::LexerFactory>& languageTable()
 }
 
 // Characters in UTF-8 text: every byte that does not continue a sequence starts one.
-qint64 utf8Characters(const char* text, int length)
+qint64 utf8Characters(const char* text, qsizetype length)
 {
     qint64 n = 0;
-    for (int i = 0; i < length; ++i)
+    for (qsizetype i = 0; i < length; ++i)
         n += (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80;
     return n;
 }
@@ -101,20 +101,19 @@ CodeMax::~CodeMax() { delete recording; }
 void CodeMax::textModified(int position, int type, const char* text, int length)
 {
     if (quiet) {
-        if (type & SC_MOD_BEFOREINSERT) {
-            if (text)
-                characters += utf8Characters(text, length);
-            else
-                recount = true;
-        } else if (type & SC_MOD_BEFOREDELETE) {
-            // The text to go is still there to count; all of it is simply all characters.
-            if (position == 0 && length == SendScintilla(SCI_GETLENGTH))
-                characters = 0;
-            else
-                characters -= SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(position),
-                                            static_cast<long>(position + length));
-        } else {
+        if (!(type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)))
             return;
+        // A notice before a change is also the moment after the one before it.
+        countInsertion();
+        if (type & SC_MOD_BEFOREINSERT) {
+            insertedAt = position;
+            insertedLength = length;
+        } else if (position == 0 && length == SendScintilla(SCI_GETLENGTH)) {
+            characters = 0;  // all of it: nothing to count
+        } else {
+            // The text to go is still there to count.
+            characters -= SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(position),
+                                        static_cast<long>(position + length));
         }
         // The change is not done yet: tell it once it is, here or at the next turn of the loop.
         if (!changePending) {
@@ -140,14 +139,19 @@ void CodeMax::setQuiet(bool on)
     SendScintilla(SCI_SETMODEVENTMASK, static_cast<unsigned long>(on ? beforeChangeNotices : SC_MODEVENTMASKALL));
 }
 
+void CodeMax::countInsertion()
+{
+    if (insertedLength == 0)
+        return;
+    characters += SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(insertedAt),
+                                static_cast<long>(insertedAt + insertedLength));
+    insertedLength = 0;
+}
+
 void CodeMax::changeDone()
 {
-    const long bytes = SendScintilla(SCI_GETLENGTH);
-    if (recount) {
-        recount = false;
-        characters = SendScintilla(SCI_COUNTCHARACTERS, 0UL, bytes);
-    }
-    setQuiet(bytes > quietAbove);
+    countInsertion();
+    setQuiet(SendScintilla(SCI_GETLENGTH) > quietAbove);
     if (!changePending)
         return;
     changePending = false;
@@ -191,7 +195,12 @@ void CodeMax::setSelText(const QString& text)
 
 int CodeMax::SelLength() const { return selectedText().size(); }
 
-int CodeMax::TextLength() const { return static_cast<int>(characters); }
+int CodeMax::TextLength() const
+{
+    const long inserted = insertedLength == 0 ? 0
+        : SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(insertedAt), static_cast<long>(insertedAt + insertedLength));
+    return static_cast<int>(characters + inserted);
+}
 
 QByteArray CodeMax::utf8Text() const
 {
@@ -299,14 +308,16 @@ void CodeMax::OpenFile(const QString& path)
     SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(room, INT_MAX)));
     constexpr qint64 piece = 16 << 20;
     QByteArray held;  // the start of a character cut by the end of a piece
-    while (!file.atEnd()) {
-        const QByteArray text = TextFiles::toEditorText(held + file.read(piece), &held);
+    // Each piece is counted as it goes in, faster than the editor counts it afterwards.
+    const auto append = [this](const QByteArray& text) {
         SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.constData());
-    }
-    if (!held.isEmpty()) {  // the file ends inside a character
-        const QByteArray text = TextFiles::toEditorText(held);
-        SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.constData());
-    }
+        insertedLength = 0;
+        characters += utf8Characters(text.constData(), text.size());
+    };
+    while (!file.atEnd())
+        append(TextFiles::toEditorText(held + file.read(piece), &held));
+    if (!held.isEmpty())  // the file ends inside a character
+        append(TextFiles::toEditorText(held));
     SendScintilla(SCI_EMPTYUNDOBUFFER);
     SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
     SendScintilla(SCI_GOTOPOS, 0UL);

@@ -90,6 +90,7 @@ private:
     void textModified(int position, int type, const char* text, int length);
     void setQuiet(bool on);
     void changeDone();
+    void countInsertion();
     void collapseSelectionRight();
     void changeCase(bool upper);
     void toggleRecording();
@@ -107,5 +108,8 @@ private:
     qint64 characters = 0;
     bool quiet = false;
     bool changePending = false;  // a change heard of before it was done, not yet told
-    bool recount = false;        // a change whose characters could not be counted from its notice
+    // An insertion heard of before it was made, counted where it stands once it is done: the
+    // notice before an insertion does not carry its text.
+    long insertedAt = 0;
+    long insertedLength = 0;
 };

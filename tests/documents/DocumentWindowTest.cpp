@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -136,6 +137,23 @@ TEST_F(DocumentTest, EditsMarkTheDocumentChangedAndUpdateTheStatus)
     EXPECT_EQ(main->statusText(3), QStringLiteral("Chr: 15"));
     insert(QStringLiteral("é"));
     EXPECT_EQ(main->statusText(3), QStringLiteral("Chr: 16")) << "characters, not bytes";
+}
+
+TEST_F(DocumentTest, AKeyInABigPageMarksItChangedAndShowsTheCountBeforeTheNextKey)
+{
+    // 1.2 MB: the editor tells of its changes once they are done, a key's at once.
+    frmDocument* doc = newPage();
+    doc->CodeMax1()->setText(QStringLiteral(u"<p>café €</p>\r\n").repeated(80000));
+    doc->Changedvalue()->setText(QString());
+    CodeMax* editor = doc->CodeMax1();
+    ASSERT_TRUE(editor->isQuiet());
+    editor->SendScintilla(QsciScintillaBase::SCI_DOCUMENTEND);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QCoreApplication::sendEvent(editor, &press);
+    frmMain* main = frmMain::instance();
+    EXPECT_EQ(doc->Changedvalue()->text(), QStringLiteral("Changed"));
+    EXPECT_EQ(main->statusText(2), QStringLiteral("Lines: 80002"));
+    EXPECT_EQ(main->statusText(3), QStringLiteral("Chr: 1200002"));
 }
 
 TEST_F(DocumentTest, ActivationSetsTheCaptionAndTheStatus)

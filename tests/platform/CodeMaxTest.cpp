@@ -7,12 +7,15 @@
 
 #include <Qsci/qscilexer.h>
 
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+#include <random>
 
 namespace {
 using Sci = QsciScintillaBase;
@@ -546,4 +549,179 @@ TEST_F(CodeMaxTest, DeleteSelRemovesOnlyTheSelection)
     EXPECT_EQ(editor.text(), QStringLiteral("keep keep"));
     editor.DeleteSel();
     EXPECT_EQ(editor.text(), QStringLiteral("keep keep")) << "nothing selected, nothing removed";
+}
+
+// ---- Big texts -----------------------------------------------------------------------------
+// Above a megabyte the editor counts characters from the notices before each change and tells
+// Change once the change is done; the count must stay what the editor itself counts.
+
+namespace {
+// 21 characters in 25 bytes.
+const QString bigLine = QStringLiteral(u"<p>café € naïve</p>\r\n");
+constexpr int bigLines = 48000;  // 1.2 MB
+
+long ownCount(const CodeMax& e)
+{
+    return e.SendScintilla(Sci::SCI_COUNTCHARACTERS, 0UL, e.SendScintilla(Sci::SCI_GETLENGTH));
+}
+
+void key(CodeMax& e, int code, const QString& text = {})
+{
+    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&e, &press);
+}
+}
+
+TEST_F(CodeMaxTest, ABigTextIsCountedAndToldOfAsItChanges)
+{
+    editor.setLineNumbering(true);
+    QSignalSpy changed(&editor, &CodeMax::Change);
+    editor.setText(bigLine.repeated(bigLines));
+    EXPECT_TRUE(editor.isQuiet());
+    EXPECT_EQ(changed.count(), 1) << "assigning the text is told once, at once";
+    EXPECT_EQ(editor.TextLength(), 21 * bigLines);
+    EXPECT_EQ(editor.LineCount(), bigLines + 1);
+
+    // Keys are told at once, each by itself: the status line follows the user's typing.
+    setCaret(21 * 100 + 3);
+    changed.clear();
+    type(QStringLiteral(u"é€x"));
+    EXPECT_EQ(changed.count(), 3);
+    key(editor, Qt::Key_Return);
+    key(editor, Qt::Key_Backspace);
+    key(editor, Qt::Key_Backspace);
+    EXPECT_EQ(changed.count(), 6);
+    EXPECT_EQ(editor.TextLength(), 21 * bigLines + 2);
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
+
+    // Edits by code are told once the turn of the event loop is over, once for all of them.
+    changed.clear();
+    const int widthBefore = editor.marginWidth(0);
+    editor.SendScintilla(Sci::SCI_INSERTTEXT, 0UL, "\xe2\x82\xac\xf0\x9f\x98\x80");
+    editor.SendScintilla(Sci::SCI_DELETERANGE, bytePos(21 * 10), 25L);
+    editor.SendScintilla(Sci::SCI_INSERTTEXT, 0UL, QByteArray("\r\n").repeated(60000).constData());
+    EXPECT_EQ(changed.count(), 0) << "not told while the change may still go on";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(editor.TextLength(), 21 * bigLines + 2 + 2 - 21 + 2 * 60000);
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
+    EXPECT_GT(editor.marginWidth(0), widthBefore) << "the line numbers grew by a digit";
+
+    // Undo and redo, and a replacement by setSelText, which is told at once.
+    for (int i = 0; i < 3; ++i)
+        editor.undo();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editor.TextLength(), 21 * bigLines + 2);
+    editor.redo();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
+    select(5, 30);
+    changed.clear();
+    editor.setSelText(QStringLiteral(u"ünï"));
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
+
+    // Shrunk below the line, the editor hears QScintilla's own notices again.
+    select(100, editor.TextLength());
+    editor.DeleteSel();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(editor.isQuiet());
+    EXPECT_EQ(editor.TextLength(), 100);
+    changed.clear();
+    editor.SendScintilla(Sci::SCI_INSERTTEXT, 0UL, "\xc3\xa9");
+    EXPECT_EQ(changed.count(), 1) << "a small text is told of at once";
+    EXPECT_EQ(editor.TextLength(), 101);
+}
+
+TEST_F(CodeMaxTest, RandomEditsAroundTheLineKeepTheCount)
+{
+    // Starts just below the line, so the walk crosses it both ways.
+    const int lines = static_cast<int>((CodeMax::quietAbove - 2000) / 25);
+    editor.setText(bigLine.repeated(lines));
+    editor.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
+    const char* pieces[] = {"a", "\xc3\xa9", "\xe2\x82\xac", "\xf0\x9f\x98\x80", "\r\n", "<p>"};
+    std::mt19937 random(20261124);
+    auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    bool sawQuiet = false, sawPlain = false;
+    for (int step = 0; step < 300; ++step) {
+        const int chars = editor.TextLength();
+        const bool growing = step < 150;
+        switch (below(5)) {
+        case 0:
+        case 1: {
+            if (!growing && below(2))
+                break;
+            QByteArray text;
+            for (int n = below(400) + 1; n > 0; --n)
+                text += pieces[below(6)];
+            editor.SendScintilla(Sci::SCI_INSERTTEXT, bytePos(below(chars + 1)), text.constData());
+            break;
+        }
+        case 2: {
+            if (growing && below(2))
+                break;
+            const int from = below(chars + 1);
+            const int to = qMin(chars, from + below(1200));
+            editor.SendScintilla(Sci::SCI_DELETERANGE, bytePos(from), bytePos(to) - bytePos(from));
+            break;
+        }
+        case 3: {
+            const int from = below(chars + 1);
+            select(from, qMin(chars, from + below(50)));
+            editor.setSelText(QString::fromUtf8(pieces[below(6)]).repeated(below(30)));
+            break;
+        }
+        default:
+            if (below(2))
+                editor.undo();
+            else
+                editor.redo();
+        }
+        if (step % 7 == 0) {
+            QCoreApplication::processEvents();
+            ASSERT_EQ(editor.TextLength(), ownCount(editor)) << "after step " << step;
+            (editor.isQuiet() ? sawQuiet : sawPlain) = true;
+        }
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
+    EXPECT_TRUE(sawQuiet && sawPlain) << "the walk stayed on one side of the line";
+}
+
+TEST_F(CodeMaxTest, ABigFileIsReadInPiecesAsTheWholeFile)
+{
+    // Characters cut by the end of the first 16 MiB piece: a UTF-8 euro sign in one file, a
+    // Windows-1252 e acute followed by a UTF-8 euro sign in the other.
+    const qsizetype piece = 16 << 20;
+    struct Case { QByteArray tail; QByteArray shown; int characters; };
+    const Case cases[] = {
+        {"\xe2\x82\xac tail\r\n", "\xe2\x82\xac tail\r\n", 8},
+        {"\xe9\xe2\x82\xac\x80", "\xc3\xa9\xe2\x82\xac\xe2\x82\xac", 3},
+    };
+    for (const Case& c : cases) {
+        const QString path = dir.filePath(QStringLiteral("big.htm"));
+        // Short lines: one line of 16 MiB would cost its layout, not its reading.
+        writeFile(path, QByteArray("0123456789abcd\r\n").repeated(piece / 16).chopped(1) + c.tail);
+        CodeMax big;
+        QSignalSpy changed(&big, &CodeMax::Change);
+        big.OpenFile(path);
+        EXPECT_EQ(changed.count(), 1) << "the pieces are one change";
+        EXPECT_TRUE(big.isQuiet());
+        const QByteArray text = big.utf8Text();
+        EXPECT_EQ(text.size(), piece - 1 + c.shown.size());
+        EXPECT_EQ(text.mid(piece - 3), "d\r" + c.shown);
+        EXPECT_EQ(big.TextLength(), piece - 1 + c.characters);
+        EXPECT_EQ(big.TextLength(), ownCount(big));
+        EXPECT_EQ(big.SendScintilla(Sci::SCI_GETCURRENTPOS), 0L);
+        EXPECT_FALSE(big.isUndoAvailable()) << "loading is no edit to undo";
+    }
+}
+
+TEST_F(CodeMaxTest, WithoutAScreenReaderTheEditorIsAPlainAccessibleWidget)
+{
+    ASSERT_FALSE(QAccessible::isActive());
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&editor);
+    ASSERT_NE(face, nullptr);
+    EXPECT_EQ(face->role(), QAccessible::EditableText);
+    EXPECT_EQ(face->textInterface(), nullptr) << "no text interface that counts to the caret at every move";
 }

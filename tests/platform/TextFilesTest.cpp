@@ -57,6 +57,39 @@ TEST(TextFilesDecode, MixedFilesKeepTheirValidUtf8)
     EXPECT_EQ(TextFiles::decode(QByteArray("\xf0\x9f\x98\x80\x9f")), QStringLiteral("\U0001F600\u0178"));
 }
 
+// The editor reads a file in pieces; cut anywhere, the pieces give what the whole file gives.
+TEST(TextFilesDecode, PiecesOfAFileGiveTheTextOfTheWholeFile)
+{
+    const QByteArray files[] = {
+        QByteArray("caf\xc3\xa9 \xe2\x82\xac \xf0\x9f\x98\x80 plain"),                 // UTF-8
+        QByteArray("caf\xe9 \x80 \x93quoted\x94 \xe2\x82"),                              // Windows-1252
+        QByteArray("\xc3\xa9\xe9\x80\xe2\x82\xac\xe2\x82x\xf0\x9f\x98\x80\x9f\xc0\xaf"),  // both, cut and overlong
+    };
+    for (const QByteArray& file : files) {
+        const QByteArray whole = TextFiles::toEditorText(file);
+        EXPECT_EQ(QString::fromUtf8(whole), TextFiles::decode(file)) << file.toHex().constData();
+        for (qsizetype size = 1; size <= 5; ++size) {
+            QByteArray text, held;
+            for (qsizetype at = 0; at < file.size(); at += size)
+                text += TextFiles::toEditorText(held + file.mid(at, size), &held);
+            text += TextFiles::toEditorText(held);
+            EXPECT_EQ(text, whole) << "pieces of " << size << " bytes of " << file.toHex().constData();
+        }
+    }
+}
+
+TEST(TextFilesDecode, APieceHoldsBackOnlyACharacterItCuts)
+{
+    QByteArray held;
+    EXPECT_EQ(TextFiles::toEditorText(QByteArray("ab\xe2\x82"), &held), QByteArray("ab"));
+    EXPECT_EQ(held, QByteArray("\xe2\x82"));
+    EXPECT_EQ(TextFiles::toEditorText(QByteArray("ab\xe2\x82\xac"), &held), QByteArray("ab\xe2\x82\xac"));
+    EXPECT_EQ(held, QByteArray());
+    // Stray continuation bytes are no start of a character: Windows-1252 at once.
+    EXPECT_EQ(TextFiles::toEditorText(QByteArray("a\x80\x80"), &held), QByteArray("a\xe2\x82\xac\xe2\x82\xac"));
+    EXPECT_EQ(held, QByteArray());
+}
+
 TEST(TextFilesDecode, EncodeIsUtf8AndRoundTrips)
 {
     const QString text = QStringLiteral(u"<p>é € \u4E2D</p>\r\n");
