@@ -1,23 +1,17 @@
 // Opening a big page must not stall the window: time loading and colouring HTML pages of 5 and
 // 50 MB, a 5 MB script in a record-defined language, and colouring only the first screen of the
 // 50 MB page, which is what showing it needs.
-//
-// The HTML pages come from gen_html.py in the shared anchors folder (ANCHORS overrides where),
-// cached in ${TMPDIR:-/tmp}/anchors-cache like the anchor scripts do.
+#include "AnchorPages.h"
 #include "documents/SyntaxLanguages.h"
 #include "platform/CodeMax.h"
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QHash>
-#include <QProcess>
 
 namespace {
 QString htmlPage(int megabytes)
@@ -25,20 +19,7 @@ QString htmlPage(int megabytes)
     static QHash<int, QString> pages;
     if (pages.contains(megabytes))
         return pages.value(megabytes);
-    const QString anchors = qEnvironmentVariableIsEmpty("ANCHORS") ? QStringLiteral(VELLORO_ANCHORS_DIR)
-                                                                   : qEnvironmentVariable("ANCHORS");
-    const QString cache = (qEnvironmentVariableIsEmpty("TMPDIR") ? QStringLiteral("/tmp") : qEnvironmentVariable("TMPDIR"))
-                          + QStringLiteral("/anchors-cache");
-    QDir().mkpath(cache);
-    const QString size = QString::number(megabytes) + QLatin1Char('M');
-    const QString file = cache + QStringLiteral("/page-") + size + QStringLiteral(".html");
-    if (QFileInfo(file).size() == 0) {
-        const QString part = file + QStringLiteral(".part");
-        const int rc = QProcess::execute(QStringLiteral("python3"), {anchors + QStringLiteral("/gen_html.py"), size, part});
-        if (rc != 0 || !QFile::rename(part, file))
-            return {};
-    }
-    QFile f(file);
+    QFile f(anchorPagePath(megabytes));
     if (!f.open(QIODevice::ReadOnly))
         return {};
     return pages.insert(megabytes, QString::fromLatin1(f.readAll())).value();
@@ -143,17 +124,10 @@ BENCHMARK(BM_ColourFirstScreenOfHtml)->Arg(50)->Unit(benchmark::kMicrosecond)->U
 // still being coloured in the background: how long each of the two takes to show.
 static void BM_CtrlEndAndTypeWhileColouring(benchmark::State& state)
 {
-    const QString text = htmlPage(static_cast<int>(state.range(0)));
-    if (text.isEmpty()) {
+    const QString path = anchorPagePath(static_cast<int>(state.range(0)));
+    if (path.isEmpty()) {
         state.SkipWithError("no page: gen_html.py not found (set ANCHORS)");
         return;
-    }
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("page.html"));
-    {
-        QFile f(path);
-        f.open(QIODevice::WriteOnly);
-        f.write(text.toUtf8());
     }
     double jump = 0, type = 0;
     for (auto _ : state) {
