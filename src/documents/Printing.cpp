@@ -9,6 +9,12 @@
 
 #include <QPrinter>
 
+QPrinter& documentPrinter()
+{
+    static QPrinter printer;
+    return printer;
+}
+
 void PrintDocument()
 {
     DocumentWindow* doc = frmMain::instance()->ActiveForm();
@@ -16,7 +22,7 @@ void PrintDocument()
         throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("PrintDocument"));
     if (doc->Tag() != QLatin1String("Pad"))
         doc->RichTextBox1()->setText(doc->CodeMax1()->text());
-    QPrinter printer;
+    QPrinter& printer = documentPrinter();
     if (!prompts().print(printer, doc->RichTextBox1()->SelLength() != 0))
         return;
     doc->RichTextBox1()->SelPrint(&printer);

@@ -60,9 +60,9 @@ ScriptedPrompts& ScriptedPrompts::answerPrint(const QString& pdfPath)
     return *this;
 }
 
-ScriptedPrompts& ScriptedPrompts::answerPageSetup(bool accepted)
+ScriptedPrompts& ScriptedPrompts::answerPageSetup(bool accepted, QPageLayout::Orientation turn)
 {
-    queue.append({QStringLiteral("PageSetup"), accepted});
+    queue.append({QStringLiteral("PageSetup"), accepted ? QVariant(static_cast<int>(turn)) : QVariant()});
     return *this;
 }
 
@@ -130,7 +130,11 @@ bool ScriptedPrompts::print(QPrinter& printer, bool offerSelection)
     return true;
 }
 
-bool ScriptedPrompts::pageSetup(QPrinter&, const QString& title)
+bool ScriptedPrompts::pageSetup(QPrinter& printer, const QString& title)
 {
-    return take({QStringLiteral("PageSetup"), QString(), 0, title}, false).toBool();
+    const QVariant turn = take({QStringLiteral("PageSetup"), QString(), 0, title}, QVariant());
+    if (!turn.isValid())
+        return false;
+    printer.setPageOrientation(static_cast<QPageLayout::Orientation>(turn.toInt()));
+    return true;
 }

@@ -2,6 +2,7 @@
 #include "platform/Prompts.h"
 
 #include <QList>
+#include <QPageLayout>
 #include <QVariant>
 #include <functional>
 
@@ -33,7 +34,8 @@ public:
     // The print dialog prints into this PDF file; empty = cancelled. The prompt's style records
     // whether the selection was offered (1) or not (0).
     ScriptedPrompts& answerPrint(const QString& pdfPath);
-    ScriptedPrompts& answerPageSetup(bool accepted);
+    // An accepted page setup turns the page as given.
+    ScriptedPrompts& answerPageSetup(bool accepted, QPageLayout::Orientation turn = QPageLayout::Portrait);
 
     const QList<Prompt>& prompts() const { return seen; }
     const Prompt& last() const;

@@ -25,7 +25,6 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QLocale>
-#include <QPrinter>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTime>
@@ -326,10 +325,7 @@ void registerView()
 
 void registerFileAndTools()
 {
-    add("Printsetup", [] {
-        static QPrinter printer;
-        prompts().pageSetup(printer, QStringLiteral("Page Setup"));
-    });
+    add("Printsetup", [] { prompts().pageSetup(documentPrinter(), QStringLiteral("Page Setup")); });
     add("Print", [] { PrintDocument(); });
     add("Close", [] { Forms::unload(ActiveDocument()); });
     add("Load Own Templates", [] {

@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QRegularExpression>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -322,4 +323,29 @@ TEST_F(DocumentTest, PrintGoesThroughTheRichTextCopy)
     QFile::remove(pdf);
     PrintDocument();
     EXPECT_FALSE(QFile::exists(pdf)) << "a cancelled dialog prints nothing";
+}
+
+TEST_F(DocumentTest, PrintUsesThePageOfPrintSetup)
+{
+    // The size of the first page of a PDF: its media box's width and height.
+    const auto pageSize = [](const QByteArray& pdf) {
+        const QRegularExpressionMatch m =
+            QRegularExpression(QStringLiteral("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]")).match(QString::fromLatin1(pdf));
+        return m.hasMatch() ? QSizeF(m.captured(1).toDouble(), m.captured(2).toDouble()) : QSizeF();
+    };
+    newPage()->CodeMax1()->setText(QStringLiteral("<p>turned page</p>"));
+    prompts.answerPageSetup(true, QPageLayout::Landscape);
+    frmMain::instance()->MenuClick(QStringLiteral("Printsetup"));
+    prompts.answerPrint(folder.file(QStringLiteral("wide.pdf")));
+    frmMain::instance()->MenuClick(QStringLiteral("Print"));
+    const QSizeF wide = pageSize(folder.read(QStringLiteral("wide.pdf")));
+    ASSERT_TRUE(wide.isValid());
+    EXPECT_GT(wide.width(), wide.height()) << "landscape, as set up";
+
+    prompts.answerPageSetup(true, QPageLayout::Portrait);
+    frmMain::instance()->MenuClick(QStringLiteral("Printsetup"));
+    prompts.answerPrint(folder.file(QStringLiteral("tall.pdf")));
+    frmMain::instance()->MenuClick(QStringLiteral("Print"));
+    const QSizeF tall = pageSize(folder.read(QStringLiteral("tall.pdf")));
+    EXPECT_LT(tall.width(), tall.height());
 }
