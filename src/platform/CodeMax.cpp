@@ -78,7 +78,7 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
     QFont f(QStringLiteral("Courier New"));
     f.setStyleHint(QFont::Monospace);
     f.setPointSize(10);
-    setFont(f);
+    setEditorFont(f);
     setEolMode(EolWindows);
     setTabWidth(4);
     setBraceMatching(SloppyBraceMatch);
@@ -353,24 +353,38 @@ void CodeMax::setLanguage(const QString& name)
     const auto factory = languageTable().value(name);
     if (factory) {
         QsciLexer* lx = factory(this);
-        // The editor's face and size for every style, keeping each style's weight and slant.
-        lx->setDefaultFont(font());
-        for (int style = 0; style < 128; ++style) {
-            if (lx->description(style).isEmpty())
-                continue;
-            QFont f = lx->font(style);
-            f.setFamily(font().family());
-            f.setPointSize(font().pointSize());
-            lx->setFont(f, style);
-        }
+        applyFont(lx);
         setLexer(lx);
     } else {
         setLexer(nullptr);
+        setFont(textFont);  // letting go of a language resets plain text's style
     }
     if (old)
         old->deleteLater();
     // setLexer resets the margins' look; keep the line numbers as they were.
     updateLineNumberWidth();
+}
+
+void CodeMax::applyFont(QsciLexer* lx)
+{
+    lx->setDefaultFont(textFont);
+    for (int style = 0; style < 128; ++style) {
+        if (lx->description(style).isEmpty())
+            continue;
+        QFont f = lx->font(style);
+        f.setFamily(textFont.family());
+        f.setPointSize(textFont.pointSize());
+        lx->setFont(f, style);
+    }
+}
+
+void CodeMax::setEditorFont(const QFont& f)
+{
+    textFont = f;
+    if (QsciLexer* lx = lexer())
+        applyFont(lx);
+    else
+        setFont(f);  // plain text's own style
 }
 
 void CodeMax::setDisplayLeftMargin(bool on) { setMarginWidth(1, on ? 12 : 0); }

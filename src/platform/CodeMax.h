@@ -58,6 +58,11 @@ public:
     static void registerLanguage(const QString& name, LexerFactory factory);
     static QStringList languages();
 
+    // The face and size of the text, in every style of every language chosen from now on; each
+    // style keeps its own weight and slant.
+    void setEditorFont(const QFont& font);
+    QFont editorFont() const { return textFont; }
+
     void setDisplayLeftMargin(bool on);
     void setLineNumbering(bool on);
     void setDisplayWhitespace(bool on);
@@ -96,8 +101,10 @@ private:
     void toggleRecording();
     void playMacro(int slot);
     void updateLineNumberWidth();
+    void applyFont(QsciLexer* lexer);
 
     QString languageName;
+    QFont textFont;
     bool lineNumbers = false;
     int recordSlot = 1;
     QsciMacro* recording = nullptr;

@@ -139,7 +139,7 @@ EditorOptionsDialog::Values EditorOptionsDialog::read(const CodeMax* editor)
 {
     Values v;
     QsciLexer* lexer = editor->lexer();
-    const QFont f = lexer ? lexer->defaultFont() : editor->font();
+    const QFont f = editor->editorFont();
     v.fontFamily = f.family();
     v.fontSize = f.pointSize() > 0 ? f.pointSize() : 10;
     v.tabWidth = editor->tabWidth();
@@ -157,22 +157,14 @@ EditorOptionsDialog::Values EditorOptionsDialog::read(const CodeMax* editor)
 
 void EditorOptionsDialog::apply(CodeMax* editor, const Values& v)
 {
-    QFont f(v.fontFamily, v.fontSize);
+    const QFont f(v.fontFamily, v.fontSize);
+    editor->setEditorFont(f);
     if (QsciLexer* lexer = editor->lexer()) {
-        // Every style takes the face and size; the weights of the styles stay theirs.
-        for (int style = 0; style < 128; ++style) {
-            QFont sf = lexer->font(style);
-            sf.setFamily(v.fontFamily);
-            sf.setPointSize(v.fontSize);
-            lexer->setFont(sf, style);
-        }
-        lexer->setDefaultFont(f);
         lexer->setDefaultColor(v.text);
         lexer->setColor(v.text, 0);
         lexer->setPaper(v.paper, -1);
         lexer->setDefaultPaper(v.paper);
     } else {
-        editor->setFont(f);
         editor->setColor(v.text);
         editor->setPaper(v.paper);
     }

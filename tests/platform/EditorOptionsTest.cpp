@@ -57,6 +57,22 @@ TEST_F(EditorOptionsTest, OkAppliesFontTabsColoursAndMargins)
     EXPECT_EQ(EditorOptionsDialog::read(&editor).paper, QColor(255, 255, 0));
 }
 
+TEST_F(EditorOptionsTest, TheChosenFontStaysWhenAnotherLanguageIsChosen)
+{
+    editor.setLanguage(QStringLiteral("HTML"));
+    EditorOptionsDialog* d = EditorOptionsDialog::open(&editor);
+    d->FontSize->setValue(19);
+    d->OkButton->click();
+    for (const char* language : {"XML", "", "SQL"}) {
+        editor.setLanguage(QString::fromLatin1(language));
+        EXPECT_EQ(editor.SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, QsciScintillaBase::STYLE_DEFAULT), 19L) << language;
+        if (editor.lexer()) {
+            EXPECT_EQ(editor.lexer()->font(1).pointSize(), 19) << language;
+            EXPECT_EQ(EditorOptionsDialog::read(&editor).fontSize, 19) << language;
+        }
+    }
+}
+
 TEST_F(EditorOptionsTest, CancelLeavesTheEditorAndACancelledColourKeepsTheOld)
 {
     editor.setTabWidth(4);
