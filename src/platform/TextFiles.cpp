@@ -150,20 +150,24 @@ QByteArray readBytes(const QString& path, bool* ok)
 
 QString readText(const QString& path, bool* ok) { return decode(readBytes(path, ok)); }
 
-bool writeBytes(const QString& path, const QByteArray& bytes, QString* error)
+namespace {
+bool save(const QString& path, const QByteArray& bytes, QString* error, bool ownerOnly)
 {
     QSaveFile f(path);
-    if (!f.open(QIODevice::WriteOnly)) {
-        if (error)
-            *error = f.errorString();
-        return false;
-    }
-    if (f.write(bytes) != bytes.size()) {
+    const auto fail = [&] {
         if (error)
             *error = f.errorString();
         f.cancelWriting();
         return false;
-    }
+    };
+    if (!f.open(QIODevice::WriteOnly))
+        return fail();
+    if (ownerOnly && !f.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+        return fail();
+    // A short write of what was buffered shows only in the flush: commit itself would not see
+    // it and would put a cut file in place of the old one.
+    if (f.write(bytes) != bytes.size() || !f.flush())
+        return fail();
     if (!f.commit()) {
         if (error)
             *error = f.errorString();
@@ -171,6 +175,11 @@ bool writeBytes(const QString& path, const QByteArray& bytes, QString* error)
     }
     return true;
 }
+}
+
+bool writeBytes(const QString& path, const QByteArray& bytes, QString* error) { return save(path, bytes, error, false); }
+
+bool writePrivate(const QString& path, const QByteArray& bytes, QString* error) { return save(path, bytes, error, true); }
 
 bool writeScratch(const QString& path, const QByteArray& bytes)
 {

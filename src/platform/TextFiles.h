@@ -23,6 +23,9 @@ QString readText(const QString& path, bool* ok = nullptr);
 
 // Replaces the file as a whole through a temporary file, so a failure never leaves half a file.
 bool writeBytes(const QString& path, const QByteArray& bytes, QString* error = nullptr);
+// The same for a file only its owner may read (a password): the temporary file is made
+// owner-only before a byte goes in.
+bool writePrivate(const QString& path, const QByteArray& bytes, QString* error = nullptr);
 bool writeText(const QString& path, const QString& text, QString* error = nullptr);
 // A scratch file of the program's own (a preview): written in place, without the cost of
 // making the write durable.

@@ -1,4 +1,5 @@
 // Text files: decoding, atomic replacement, creation of missing files.
+#include "common/FileSizeLimit.h"
 #include "common/QtPrinters.h"
 #include "platform/TextFiles.h"
 
@@ -117,6 +118,28 @@ TEST(TextFilesWrite, ReplacesTheWholeFileAndLeavesNoScratchFile)
     EXPECT_TRUE(TextFiles::writeBytes(path, QByteArray()));
     EXPECT_EQ(fileBytes(path), QByteArray());
     EXPECT_TRUE(TextFiles::exists(path));
+}
+
+TEST(TextFilesWrite, AFullDiskLeavesTheOldFileWholeForShortAndLongTexts)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("page.htm"));
+    ASSERT_TRUE(TextFiles::writeBytes(path, "old page"));
+    // A short text is held in a buffer until the end, a long one is written at once: both
+    // must fail whole.
+    for (const qsizetype size : {qsizetype(100), qsizetype(200 * 1024)}) {
+        QString error;
+        bool wrote = true;
+        {
+            const FileSizeLimit fullDisk(64);
+            ASSERT_TRUE(fullDisk.holds());
+            wrote = TextFiles::writeBytes(path, QByteArray(size, 'n'), &error);
+        }
+        EXPECT_FALSE(wrote) << size << " bytes";
+        EXPECT_FALSE(error.isEmpty());
+        EXPECT_EQ(TextFiles::readBytes(path), QByteArray("old page")) << size << " bytes";
+        EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("page.htm")});
+    }
 }
 
 TEST(TextFilesWrite, MissingFolderFailsAndLeavesNothing)
