@@ -10,8 +10,6 @@
 
 namespace FtpProfiles {
 namespace {
-constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-
 // Reads lines as the line-input statement does: CR LF, CR or LF ends a line.
 QStringList splitLines(const QString& text)
 {
@@ -48,13 +46,11 @@ QStringList readIndex()
 
 bool ensureIndex() { return TextFiles::createIfMissing(indexPath()); }
 
+// The list and the profiles are replaced whole or not at all: a failed write leaves the old file.
 bool appendIndex(const QString& name)
 {
     QDir().mkpath(folder());
-    QFile f(indexPath());
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Append))
-        return false;
-    return f.write(TextFiles::encode(name + QStringLiteral("\r\n"))) >= 0;
+    return TextFiles::writeBytes(indexPath(), TextFiles::readBytes(indexPath()) + TextFiles::encode(name + QStringLiteral("\r\n")));
 }
 
 bool rewriteIndex(const QStringList& names)
@@ -62,12 +58,8 @@ bool rewriteIndex(const QStringList& names)
     QString text;
     for (const QString& n : names)
         text += n + QStringLiteral("\r\n");
-    QFile::remove(indexPath());
     QDir().mkpath(folder());
-    QFile f(indexPath());
-    if (!f.open(QIODevice::WriteOnly))
-        return false;
-    return f.write(TextFiles::encode(text)) >= 0;
+    return TextFiles::writeBytes(indexPath(), TextFiles::encode(text));
 }
 
 QByteArray profileText(const Profile& p)
@@ -81,17 +73,8 @@ QByteArray profileText(const Profile& p)
 bool writeProfile(const Profile& p)
 {
     QDir().mkpath(folder());
-    const QString path = profilePath(p.name);
-    QFile::remove(path);
-    QFile f(path);
-    // Made owner-only from the start, so the password is never readable by others, not even
-    // for a moment.
-    if (!f.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly))
-        return false;
-    const bool ok = f.write(profileText(p)) >= 0;
-    f.close();
-    QFile::setPermissions(path, ownerOnly);
-    return ok;
+    // Owner-only from the first byte: the password is never readable by others.
+    return TextFiles::writePrivate(profilePath(p.name), profileText(p));
 }
 
 bool readProfile(const QString& name, Profile& p)

@@ -1,5 +1,6 @@
 // The profile files: seven lines, the index, owner-only files, and reading back through the
 // field reader with its comma rule.
+#include "common/FileSizeLimit.h"
 #include "ftp/FtpProfiles.h"
 #include "platform/App.h"
 
@@ -97,4 +98,26 @@ TEST_F(ProfileFiles, TheIndexAppendsRewritesAndReadsAnyLineEnd)
     f.close();
     EXPECT_EQ(FtpProfiles::readIndex(), (QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"), QString(),
                                                      QStringLiteral("D")}));
+}
+
+TEST_F(ProfileFiles, AWriteThatFailsLeavesTheOldFilesWhole)
+{
+    const FtpProfiles::Profile home{QStringLiteral("Home"), QStringLiteral("ftp.example.org"), QStringLiteral("bob"),
+                                    QStringLiteral("secret"), QStringLiteral("01/02/2003")};
+    ASSERT_TRUE(FtpProfiles::writeProfile(home));
+    ASSERT_TRUE(FtpProfiles::rewriteIndex({QStringLiteral("Home")}));
+    const QByteArray oldProfile = read(QStringLiteral("Options/FTP/Home.DAT"));
+    {
+        const FileSizeLimit fullDisk(16);
+        ASSERT_TRUE(fullDisk.holds());
+        EXPECT_FALSE(FtpProfiles::writeProfile({QStringLiteral("Home"), QStringLiteral("ftp.example.net"),
+                                                QStringLiteral("alice"), QStringLiteral("other"), QStringLiteral("x")}));
+        EXPECT_FALSE(FtpProfiles::appendIndex(QStringLiteral("A second profile")));
+        EXPECT_FALSE(FtpProfiles::rewriteIndex({QStringLiteral("Home"), QStringLiteral("Work"), QStringLiteral("Club")}));
+    }
+    EXPECT_EQ(read(QStringLiteral("Options/FTP/Home.DAT")), oldProfile);
+    EXPECT_EQ(read(QStringLiteral("Options/FTP/Main.DAT")), QByteArray("Home\r\n"));
+    EXPECT_EQ(QDir(FtpProfiles::folder()).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{QStringLiteral("Home.DAT"), QStringLiteral("Main.DAT")}))
+        << "no scratch file is left";
 }
