@@ -306,7 +306,9 @@ void registerView()
     });
     add("Preview .html Files In Explorer", [] {
         const QString text = ActiveDocument()->CodeMax1()->text();
-        TextFiles::writeText(previewFile(), text);
+        // A copy that could not be written would show an older page, or none.
+        if (!TextFiles::writeText(previewFile(), text))
+            throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("Preview .html Files In Explorer"));
         Desktop::openUrl(QUrl::fromLocalFile(previewFile()));
     });
     add("Open in Default App", [] {

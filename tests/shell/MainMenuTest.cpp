@@ -17,6 +17,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -399,6 +400,18 @@ TEST_F(MainMenuTest, OnlineItemsAndTheDesktopGoThroughTheHandOver)
     EXPECT_EQ(opened[1].toLocalFile(), App::path() + QStringLiteral("/temp.html"));
     EXPECT_EQ(folder.read(QStringLiteral("temp.html")), QByteArray("<p>x</p>"));
     EXPECT_EQ(opened[2].toLocalFile(), folder.file(QStringLiteral("saved.htm")));
+}
+
+TEST_F(MainMenuTest, APreviewCopyThatCannotBeWrittenOpensNothing)
+{
+    int opened = 0;
+    Desktop::setHandler({[&](const QUrl&) { return ++opened > 0; }, {}});
+    page(QStringLiteral("<p>x</p>"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("temp.html")));  // a folder in the way
+    main->MenuClick(QStringLiteral("Preview .html Files In Explorer"));
+    Desktop::setHandler({});
+    EXPECT_EQ(opened, 0);
+    EXPECT_TRUE(QFileInfo(folder.file(QStringLiteral("temp.html"))).isDir());
 }
 
 TEST_F(MainMenuTest, WindowArrangements)
