@@ -297,6 +297,11 @@ void CodeMax::OpenFile(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("CodeMax.OpenFile"));
+    load(file);
+}
+
+void CodeMax::load(QIODevice& source)
+{
     // The file goes into the editor piece by piece as it is read: no whole copy of it, none as
     // wide text and none in the undo history, which a big file cannot afford. Loading is not an
     // edit to undo. The pieces are counted as they go in and told as one change.
@@ -304,25 +309,37 @@ void CodeMax::OpenFile(const QString& path)
     setQuiet(true);
     SendScintilla(SCI_CLEARALL);
     // Room for the file and for typing after it: a buffer grown at the first key is copied whole.
-    const qint64 room = file.size() + file.size() / 16 + 4096;
+    const qint64 room = source.size() + source.size() / 16 + 4096;
     SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(room, INT_MAX)));
-    constexpr qint64 piece = 16 << 20;
-    QByteArray held;  // the start of a character cut by the end of a piece
+    const auto finish = [this] {
+        SendScintilla(SCI_EMPTYUNDOBUFFER);
+        SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
+        SendScintilla(SCI_GOTOPOS, 0UL);
+        changePending = true;  // even an empty file replaces what was there
+        changeDone();
+    };
     // Each piece is counted as it goes in, faster than the editor counts it afterwards.
     const auto append = [this](const QByteArray& text) {
         SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.constData());
         insertedLength = 0;
         characters += utf8Characters(text.constData(), text.size());
     };
-    while (!file.atEnd())
-        append(TextFiles::toEditorText(held + file.read(piece), &held));
+    constexpr qint64 piece = 16 << 20;
+    QByteArray held;  // the start of a character cut by the end of a piece
+    while (!source.atEnd()) {
+        const QByteArray bytes = source.read(piece);
+        if (bytes.isEmpty()) {
+            // A read that fails half way (a disk or a mount that went away) would otherwise
+            // leave a cut page that a save could put in place of the whole one.
+            SendScintilla(SCI_CLEARALL);
+            finish();
+            throw RuntimeError(57, QStringLiteral("Device I/O error"), QStringLiteral("CodeMax.OpenFile"));
+        }
+        append(TextFiles::toEditorText(held + bytes, &held));
+    }
     if (!held.isEmpty())  // the file ends inside a character
         append(TextFiles::toEditorText(held));
-    SendScintilla(SCI_EMPTYUNDOBUFFER);
-    SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);
-    SendScintilla(SCI_GOTOPOS, 0UL);
-    changePending = true;  // even an empty file replaces what was there
-    changeDone();
+    finish();
 }
 
 void CodeMax::SaveFile(const QString& path, bool overwrite)

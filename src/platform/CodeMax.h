@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+class QIODevice;
 class QsciLexer;
 class QsciMacro;
 
@@ -49,6 +50,9 @@ public:
 
     // File transfers; failures are run-time errors (53 not found, 58 exists, 75 access).
     void OpenFile(const QString& path);
+    // The text from an open device as OpenFile reads a file; a read that fails is error 57
+    // and leaves the editor empty.
+    void load(QIODevice& source);
     void SaveFile(const QString& path, bool overwrite);
 
     // The syntax language by name; an unknown name or "" shows plain text.

@@ -725,3 +725,36 @@ TEST_F(CodeMaxTest, WithoutAScreenReaderTheEditorIsAPlainAccessibleWidget)
     EXPECT_EQ(face->role(), QAccessible::EditableText);
     EXPECT_EQ(face->textInterface(), nullptr) << "no text interface that counts to the caret at every move";
 }
+
+TEST_F(CodeMaxTest, AReadThatFailsHalfWayIsDeviceErrorAndLeavesNoCutText)
+{
+    // A file of 40 MiB whose disk goes away after the first piece.
+    class FailingDisk : public QIODevice {
+    public:
+        qint64 size() const override { return 40 << 20; }
+        bool isSequential() const override { return false; }
+
+    protected:
+        qint64 readData(char* data, qint64 max) override
+        {
+            if (served > 0)
+                return -1;
+            std::fill(data, data + max, 'a');
+            served += max;
+            return max;
+        }
+        qint64 writeData(const char*, qint64) override { return -1; }
+
+    private:
+        qint64 served = 0;
+    } disk;
+    ASSERT_TRUE(disk.open(QIODevice::ReadOnly));
+    editor.setText(QStringLiteral("before"));
+    QSignalSpy changed(&editor, &CodeMax::Change);
+    expectRuntimeError(57, [&] { editor.load(disk); }, "a read that fails");
+    EXPECT_EQ(editor.SendScintilla(Sci::SCI_GETLENGTH), 0L) << "no part of the file stays";
+    EXPECT_EQ(editor.TextLength(), 0);
+    EXPECT_EQ(changed.count(), 1);
+    editor.SendScintilla(Sci::SCI_ADDTEXT, 1UL, "x");
+    EXPECT_TRUE(editor.isUndoAvailable()) << "undo is collected again";
+}
