@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QMouseEvent>
 #include <QDesktopServices>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -127,7 +128,7 @@ CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
 void CodeDocumentWindow::buildContextMenu()
 {
     SmartMenuXP1 = new QMenu(QStringLiteral("&File"), this);
-    SmartMenuXP1->setObjectName(QStringLiteral("kMenu"));
+    SmartMenuXP1->setObjectName(QStringLiteral("SmartMenuXP1"));
     SmartMenuXP1->setStyleSheet(QStringLiteral("QMenu::item:selected { background: rgb(193, 210, 238); color: black; }"));
     QHash<QString, QMenu*> submenus;
     for (const MenuItem& item : contextItems) {
@@ -200,6 +201,16 @@ bool CodeDocumentWindow::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return DocumentWindow::eventFilter(watched, event);
+}
+
+void CodeDocumentWindow::mousePressEvent(QMouseEvent* event)
+{
+    // A right click on the window itself pops up the same menu.
+    if (event->button() == Qt::RightButton) {
+        SmartMenuXP1->popup(event->globalPosition().toPoint());
+        return;
+    }
+    DocumentWindow::mousePressEvent(event);
 }
 
 QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, const QString& reportTip)

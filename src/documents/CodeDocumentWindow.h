@@ -48,6 +48,7 @@ protected:
     QFrame* buildPreviewBar(const QString& name, bool withZoom, const QString& reportTip);
     void showTextStatus();
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     // The window's own refresh (the first button).
     virtual void refreshPreview() = 0;
 

@@ -150,7 +150,9 @@ void MenuSaveAs()
 void CreateTemplates()
 {
     DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    const QString path = doc ? doc->tempaddress()->text() : QString();
+    if (!doc)
+        throw RuntimeError::objectRequired();
+    const QString path = doc->tempaddress()->text();
     if (path.isEmpty()) {
         showForm(QStringLiteral("tmplsave"));
         return;

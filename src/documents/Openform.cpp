@@ -122,6 +122,8 @@ void Openform::Command1_Click()
         return;
     const QString size = Combo2->currentText();
     const int state = size == QLatin1String("Maximized") ? 2 : size == QLatin1String("Minimized") ? 1 : 0;
-    OpenDocument(path, kind, state);
+    // A file that cannot be read ends the command in its trap: the dialog stays.
+    if (!OnErrorExit([&] { OpenDocument(path, kind, state); }))
+        return;
     hide();
 }

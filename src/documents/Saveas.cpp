@@ -138,12 +138,18 @@ bool Saveas::mayWrite(const QString& path)
                   QStringLiteral(":: Velloro 2002 ::")) == Answer::Yes;
 }
 
+bool Saveas::hasFolderAndName()
+{
+    if (!filename->text().isEmpty() && !Location->text().isEmpty())
+        return true;
+    MsgBox(QStringLiteral(" Destination Folder and Name are required"));
+    return false;
+}
+
 void Saveas::SaveCode()
 {
-    if (filename->text().isEmpty() || Location->text().isEmpty()) {
-        MsgBox(QStringLiteral(" Destination Folder and Name are required"));
+    if (!hasFolderAndName())
         return;
-    }
     const QString path = target();
     if (!mayWrite(path))
         return;
@@ -165,7 +171,9 @@ void Saveas::SaveCode()
 void Saveas::SaveRichText()
 {
     // The rich text save addresses a member no window has: it ends in the trap, after the
-    // exists check, and nothing is written.
+    // same checks, and nothing is written.
+    if (!hasFolderAndName())
+        return;
     const QString path = target();
     if (!mayWrite(path))
         return;

@@ -32,6 +32,7 @@ public:
 
 private:
     void SaveCode();
+    bool hasFolderAndName();  // says so when either is missing
     void SaveRichText();
     // The exists check and the question; false when the user keeps the old file.
     bool mayWrite(const QString& path);

@@ -161,6 +161,18 @@ TEST_F(WindowsTest, ContextMenuItemsInOrderAndTheDisabledOnes)
         EXPECT_FALSE(page->contextAction(QString::fromLatin1(key))->isEnabled()) << key;
     for (const char* key : {"Undo", "SelectAll", "Password Box", "1 Line Text Box", "About"})
         EXPECT_TRUE(page->contextAction(QString::fromLatin1(key))->isEnabled()) << key;
+    EXPECT_EQ(page->findChild<QMenu*>(QStringLiteral("SmartMenuXP1")), page->SmartMenuXP1);
+}
+
+TEST_F(WindowsTest, ARightClickOnTheWindowPopsUpItsMenu)
+{
+    auto* page = open<frmDocument>();
+    page->show();
+    QTest::mouseClick(page, Qt::RightButton, Qt::NoModifier, QPoint(2, 2));
+    EXPECT_TRUE(page->SmartMenuXP1->isVisible());
+    page->SmartMenuXP1->hide();
+    QTest::mouseClick(page, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
+    EXPECT_FALSE(page->SmartMenuXP1->isVisible());
 }
 
 TEST_F(WindowsTest, SplitWindowPreviewFollowsTheTyping)

@@ -175,7 +175,17 @@ TEST_F(OpenSaveTest, SaveAsOverAnExistingFileAsksAndNoKeepsEverything)
     EXPECT_EQ(frmMain::instance()->documents().size(), 1) << "and keeps it loaded";
 }
 
-TEST_F(OpenSaveTest, SaveAsNeedsAFolderAndAName)
+TEST_F(OpenSaveTest, OpenOfAFileThatCannotBeReadEndsQuietlyAndTheDialogStays)
+{
+    Openform* open = form<Openform>();
+    open->show();
+    open->Location->setText(folder.file(QStringLiteral("gone.htm")));
+    open->Command1->click();
+    EXPECT_TRUE(prompts.prompts().isEmpty()) << "file errors end in the trap, without a message";
+    EXPECT_TRUE(open->isVisible());
+}
+
+TEST_F(OpenSaveTest, SaveAsNeedsAFolderAndANameOnBothWays)
 {
     newPage(QStringLiteral("x"));
     Saveas* save = form<Saveas>();
@@ -184,6 +194,23 @@ TEST_F(OpenSaveTest, SaveAsNeedsAFolderAndAName)
     save->Command1->click();
     EXPECT_EQ(prompts.last().text, QStringLiteral(" Destination Folder and Name are required"));
     EXPECT_EQ(prompts.last().style, 0);
+
+    // The rich text way checks the same before it looks for the file.
+    save->Combo1->addItem(QStringLiteral(".rtf"));
+    save->Combo1->setCurrentText(QStringLiteral(".rtf"));
+    save->Location->setText(folder.path() + QStringLiteral("/"));
+    prompts.clear();
+    prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
+    save->Command1->click();
+    ASSERT_EQ(prompts.prompts().size(), 2);
+    EXPECT_EQ(prompts.last().text, QStringLiteral(" Destination Folder and Name are required"));
+}
+
+TEST_F(OpenSaveTest, CreateTemplatesWithNoDocumentDoesNothing)
+{
+    frmMain::instance()->MenuClick(QStringLiteral("Create Templates"));
+    EXPECT_FALSE(form<tmplsave>()->isVisible());
+    EXPECT_TRUE(prompts.prompts().isEmpty());
 }
 
 TEST_F(OpenSaveTest, RichTextChoiceAsksAndNoGoesThePlainWay)
