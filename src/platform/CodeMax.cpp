@@ -174,26 +174,48 @@ void CodeMax::inputMethodEvent(QInputMethodEvent* e)
 
 void CodeMax::setText(const QString& text)
 {
-    // Assigning a big text would be counted twice over by the notice after it.
+    // Assigning a big text would be counted twice over by the notice after it. The text goes
+    // in by its length, so a NUL does not end it.
     setQuiet(true);
-    QsciScintilla::setText(text);
+    const bool readOnly = isReadOnly();
+    setReadOnly(false);
+    const QByteArray bytes = text.toUtf8();
+    SendScintilla(SCI_CLEARALL);
+    SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(bytes.size()), bytes.constData());
+    SendScintilla(SCI_EMPTYUNDOBUFFER);
+    setReadOnly(readOnly);
     changeDone();
 }
 
-QString CodeMax::SelText() const { return selectedText(); }
+QString CodeMax::text() const { return QString::fromUtf8(utf8Text()); }
+
+QString CodeMax::SelText() const
+{
+    const long start = SendScintilla(SCI_GETSELECTIONSTART);
+    const long length = SendScintilla(SCI_GETSELECTIONEND) - start;
+    const auto* data = reinterpret_cast<const char*>(
+        SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
+    return length > 0 && data ? QString::fromUtf8(data, length) : QString();
+}
 
 void CodeMax::setSelText(const QString& text)
 {
     // Replacing the selection (empty or not) is one editor action, which a macro records; the
-    // caret then stands behind the text, as it will when the macro plays.
+    // caret then stands behind the text, as it will when the macro plays. A text with a NUL
+    // goes in by its length instead, which no macro records.
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
-    replaceSelectedText(text);
-    const long end = start + text.toUtf8().size();
-    SendScintilla(SCI_SETSEL, start, end);
+    const QByteArray bytes = text.toUtf8();
+    if (bytes.contains('\0')) {
+        SendScintilla(SCI_TARGETFROMSELECTION);
+        SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
+    } else {
+        replaceSelectedText(text);
+    }
+    SendScintilla(SCI_SETSEL, start, start + static_cast<long>(bytes.size()));
     changeDone();
 }
 
-int CodeMax::SelLength() const { return selectedText().size(); }
+int CodeMax::SelLength() const { return SelText().size(); }
 
 int CodeMax::TextLength() const
 {
@@ -229,7 +251,7 @@ void CodeMax::changeCase(bool upper)
     // The editor's own case commands know only ASCII letters; the text's own rules know all.
     if (!hasSelectedText())
         return;
-    const QString selected = selectedText();
+    const QString selected = SelText();
     setSelText(upper ? selected.toUpper() : selected.toLower());
 }
 

@@ -35,6 +35,10 @@ public:
 
     void setText(const QString& text) override;
 
+    // The text and the selection as the editor holds them, NUL characters and all: QScintilla's
+    // own text() and selectedText() stop at the first NUL, and its setters measure with strlen.
+    using QsciScintilla::text;
+    QString text() const;
     QString SelText() const;
     // Replaces the selection (or inserts at the caret) and leaves the new text selected.
     void setSelText(const QString& text);

@@ -29,7 +29,7 @@ FindReplaceDialog* FindReplaceDialog::open(CodeMax* editor)
     FindReplaceDialog* d = of(editor);
     // A selection on one line is almost always what the user wants to look for next.
     if (editor->hasSelectedText()) {
-        const QString selected = editor->selectedText();
+        const QString selected = editor->SelText();
         if (!selected.contains(QLatin1Char('\n')) && !selected.contains(QLatin1Char('\r')))
             d->findText->setText(selected);
     }
@@ -148,7 +148,11 @@ using Sci = QsciScintillaBase;
 
 // The editor counts positions in UTF-8 bytes, the text in UTF-16 units.
 long bytesAt(const QString& text, int index) { return QStringView(text).first(index).toUtf8().size(); }
-int indexAt(const QString& text, long bytes) { return QString::fromUtf8(text.toUtf8().first(bytes)).size(); }
+int indexAt(const QString& text, long bytes)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return static_cast<int>(QString::fromUtf8(utf8.first(qBound(0L, bytes, static_cast<long>(utf8.size())))).size());
+}
 
 bool isWordChar(char32_t c)
 {
@@ -174,6 +178,13 @@ char32_t codePointAt(const QString& t, int i)
 int nextIndex(const QString& t, int i)
 {
     return (i + 1 < t.size() && t[i].isHighSurrogate() && t[i + 1].isLowSurrogate()) ? i + 2 : i + 1;
+}
+
+// One character on from an empty match, taking a CR LF line end as one: a search from between
+// the two would find the end of the line again there.
+int pastEmptyMatch(const QString& t, int i)
+{
+    return (i + 1 < t.size() && t[i] == QLatin1Char('\r') && t[i + 1] == QLatin1Char('\n')) ? i + 2 : nextIndex(t, i);
 }
 }
 
@@ -241,13 +252,19 @@ FindReplaceDialog::Match FindReplaceDialog::firstFrom(const QString& text, int f
 FindReplaceDialog::Match FindReplaceDialog::lastBefore(const QString& text, int before, bool emptyThere) const
 {
     if (regularExpression->isChecked()) {
-        Match last;
-        for (const Match& m : all(text)) {
-            if (m.end > before || (m.empty() && m.start == before && !emptyThere))
+        // Only the last match before the point is kept, not a list of all: a big page may hold
+        // millions.
+        QRegularExpressionMatch last;
+        QRegularExpressionMatchIterator it = regex().globalMatch(text);
+        while (it.hasNext()) {
+            const QRegularExpressionMatch m = it.next();
+            if (m.capturedEnd() > before || (m.capturedLength() == 0 && m.capturedStart() == before && !emptyThere))
                 break;
             last = m;
         }
-        return last;
+        if (!last.hasMatch())
+            return {};
+        return {static_cast<int>(last.capturedStart()), static_cast<int>(last.capturedEnd()), last.capturedTexts()};
     }
     const QString needle = findText->text();
     const Qt::CaseSensitivity cs = matchCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
@@ -289,7 +306,7 @@ FindReplaceDialog::Match FindReplaceDialog::find(const QString& text, bool forwa
         m = firstFrom(text, selEnd);
         // An empty match where the caret already stands would be found again and again.
         if (m.found() && m.empty() && m.start == selEnd && caretOnly)
-            m = selEnd < text.size() ? firstFrom(text, nextIndex(text, selEnd)) : Match{};
+            m = selEnd < text.size() ? firstFrom(text, pastEmptyMatch(text, selEnd)) : Match{};
     } else {
         m = lastBefore(text, selStart, !caretOnly);
     }

@@ -513,6 +513,31 @@ TEST_F(CodeMaxTest, ChangeFiresOnEveryTextChangeAlsoByCode)
     EXPECT_EQ(changed.count(), 0);
 }
 
+TEST_F(CodeMaxTest, ANulCharacterIsTextLikeAnyOther)
+{
+    const QChar nul(0);
+    editor.setText(QStringLiteral("ab") + nul + QStringLiteral("cd"));
+    EXPECT_EQ(editor.text(), QStringLiteral("ab") + nul + QStringLiteral("cd"));
+    EXPECT_EQ(editor.TextLength(), 5);
+    editor.ExecuteCmd(137);
+    EXPECT_EQ(editor.SelText(), QStringLiteral("ab") + nul + QStringLiteral("cd"));
+    editor.ExecuteCmd(125);
+    EXPECT_EQ(editor.text(), QStringLiteral("AB") + nul + QStringLiteral("CD")) << "nothing after the NUL is lost";
+    EXPECT_EQ(editor.SelLength(), 5);
+
+    setCaret(5);
+    insert(nul + QStringLiteral("e"));
+    EXPECT_EQ(editor.text(), QStringLiteral("AB") + nul + QStringLiteral("CD") + nul + QStringLiteral("e"));
+    EXPECT_EQ(caret(), 7);
+
+    const QString path = dir.filePath(QStringLiteral("nul.htm"));
+    writeFile(path, QByteArray("x\0y\0z", 5));
+    editor.OpenFile(path);
+    EXPECT_EQ(editor.text(), QStringLiteral("x") + nul + QStringLiteral("y") + nul + QStringLiteral("z"));
+    editor.SaveFile(path, true);
+    EXPECT_EQ(readFile(path), QByteArray("x\0y\0z", 5));
+}
+
 TEST_F(CodeMaxTest, TextLengthCountsCharacters)
 {
     editor.setText(QStringLiteral("a\u00E9\u20AC\r\n"));

@@ -265,6 +265,36 @@ TEST_F(FindReplaceTest, FindRegularExpressions)
     EXPECT_EQ(status(), QStringLiteral("Cannot find \"^x\\d\"."));
 }
 
+TEST_F(FindReplaceTest, AnEmptyMatchAtALineEndStepsOverTheWholeCrLf)
+{
+    editor.setText(QStringLiteral("a\r\nb"));
+    setCaret(0);
+    dialog = open();
+    tick("regularExpression");
+    setFind(QStringLiteral("$"));
+    press("findNext");
+    EXPECT_EQ(selection(), Sel(1, 1));
+    press("findNext");
+    EXPECT_EQ(selection(), Sel(4, 4)) << "never between CR and LF";
+    press("findPrevious");
+    EXPECT_EQ(selection(), Sel(1, 1));
+}
+
+TEST_F(FindReplaceTest, TextPastANulCharacterIsFoundAndKept)
+{
+    const QString text = QStringLiteral("ab") + QChar(0) + QStringLiteral("cd b");
+    editor.setText(text);
+    EXPECT_EQ(editor.text(), text);
+    setCaret(4);
+    dialog = open();
+    setFind(QStringLiteral("b"));
+    press("findNext");
+    EXPECT_EQ(selection(), Sel(6, 7));
+    setReplace(QStringLiteral("B"));
+    press("replaceAll");
+    EXPECT_EQ(editor.text(), QStringLiteral("aB") + QChar(0) + QStringLiteral("cd B"));
+}
+
 TEST_F(FindReplaceTest, FindInvalidPatternSaysSoAndChangesNothing)
 {
     const QString text = QStringLiteral("(abc [def] abc");
