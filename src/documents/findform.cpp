@@ -143,12 +143,8 @@ void findform::refreshCopy(bool always)
         // On a mere return to the window, a copy that already holds the editor's text is left
         // alone: coming back from one of our own message boxes must keep the found selection
         // that Replace works on.
-        if (!always) {
-            QString plain = code;
-            plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-            if (copy->document()->toPlainText() == plain)
-                return;
-        }
+        if (!always && copy->text() == code)
+            return;
         copy->setText(QString());
         copy->setText(code);
     });
@@ -197,7 +193,7 @@ void findform::Command3_Click()
 {
     OnErrorExit([this] {
         RichTextBox* box = active()->RichTextBox1();
-        const int start = box->SelStart() + box->SelText().size();
+        const int start = box->SelStart() + box->SelLength();
         // The same case-blind match as the first find, only from the end of the last one on.
         const QTextCursor found = box->document()->find(Text1->text(), start);
         if (found.isNull())

@@ -40,9 +40,24 @@ void RichTextBox::setCursor(const QTextCursor& c)
 
 QString RichTextBox::text() const
 {
-    // The control's text has CR LF between paragraphs.
-    QString s = doc->toPlainText();
-    s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    // The control's text has CR LF between paragraphs and at soft line breaks; every other
+    // character stands as it is (a no-break space stays one: a page copied in and back out
+    // must come back unchanged).
+    const QString raw = doc->toRawText();
+    QString s;
+    s.reserve(raw.size() + raw.size() / 16);
+    for (const QChar c : raw) {
+        switch (c.unicode()) {
+        case QChar::ParagraphSeparator:
+        case QChar::LineSeparator:
+        case 0xFDD0:  // the start and end marks of a frame
+        case 0xFDD1:
+            s += QLatin1String("\r\n");
+            break;
+        default:
+            s += c;
+        }
+    }
     return s;
 }
 
@@ -159,22 +174,33 @@ void RichTextBox::setSelUnderline(bool on)
 
 void RichTextBox::mergeBlock(const std::function<void(QTextBlockFormat&)>& change)
 {
+    // Each paragraph of the selection changes only in what is changed; its other settings
+    // (alignment, the other margins) stay its own.
     QTextCursor c = cursor();
-    QTextBlockFormat f = c.blockFormat();
-    change(f);
-    c.setBlockFormat(f);
+    const QTextBlock last = doc->findBlock(c.selectionEnd());
+    c.beginEditBlock();
+    for (QTextBlock b = doc->findBlock(c.selectionStart()); b.isValid(); b = b.next()) {
+        QTextBlockFormat f = b.blockFormat();
+        change(f);
+        QTextCursor(b).setBlockFormat(f);
+        if (b == last)
+            break;
+    }
+    c.endEditBlock();
     setCursor(c);
 }
 
-// Indents are kept in twips; the document works in pixels.
+// Indents are kept in twips; the document works in pixels. The indent is where a paragraph's
+// first line starts, the hanging indent how far the lines after it stand from there; the
+// document keeps a margin for all lines and the first line's offset from it.
 int RichTextBox::SelIndent() const
 {
     const QTextBlockFormat f = cursor().blockFormat();
-    return pixelsToTwips(static_cast<int>(f.leftMargin() + qMax(0.0, f.textIndent())));
+    return pixelsToTwips(static_cast<int>(f.leftMargin() + f.textIndent()));
 }
 void RichTextBox::setSelIndent(int twips)
 {
-    mergeBlock([twips](QTextBlockFormat& f) { f.setLeftMargin(twipsToPixels(twips)); });
+    mergeBlock([twips](QTextBlockFormat& f) { f.setLeftMargin(qMax(0.0, twipsToPixels(twips) - f.textIndent())); });
 }
 int RichTextBox::SelRightIndent() const { return pixelsToTwips(static_cast<int>(cursor().blockFormat().rightMargin())); }
 void RichTextBox::setSelRightIndent(int twips)
@@ -184,7 +210,12 @@ void RichTextBox::setSelRightIndent(int twips)
 int RichTextBox::SelHangingIndent() const { return pixelsToTwips(static_cast<int>(-cursor().blockFormat().textIndent())); }
 void RichTextBox::setSelHangingIndent(int twips)
 {
-    mergeBlock([twips](QTextBlockFormat& f) { f.setTextIndent(-twipsToPixels(twips)); });
+    // The first line stays where it is; the lines after it move.
+    mergeBlock([twips](QTextBlockFormat& f) {
+        const double first = f.leftMargin() + f.textIndent();
+        f.setTextIndent(-twipsToPixels(twips));
+        f.setLeftMargin(qMax(0.0, first - f.textIndent()));
+    });
 }
 
 int RichTextBox::find(const QString& what)

@@ -280,6 +280,24 @@ TEST_F(FindFormTest, CloseCopiesTheWorkCopyBack)
     EXPECT_FALSE(Forms::get(QStringLiteral("findform"))->isVisible());
 }
 
+TEST_F(FindFormTest, FindAndCloseKeepEveryCharacterOfThePage)
+{
+    // A no-break space in the page: the copy must give it back as it was.
+    frmDocument* page = newPage(QStringLiteral("<p>one\u00A0two</p>\r\n<p>two</p>"));
+    auto* form = static_cast<findform*>(showFind());
+    setFind(QStringLiteral("two"));
+    clickExpecting("Command1", QStringLiteral("Word found on line 1"));
+    form->Form_Activate();
+    ASSERT_TRUE(replaceAllowed());
+    control<QLineEdit>("Text2")->setText(QStringLiteral("2"));
+    clickSilently("Command2");
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<p>one\u00A02</p>\r\n<p>two</p>")) << "the found word is replaced";
+
+    showFind();
+    clickSilently("Command4");
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<p>one\u00A02</p>\r\n<p>two</p>"));
+}
+
 TEST_F(FindFormTest, FindFollowsTheActiveDocument)
 {
     frmDocument* first = newPage(QStringLiteral("apple"));

@@ -86,6 +86,9 @@ TEST_P(RichTextBoxTest, TextKeepsCrLfBetweenLines)
     const QString text = QStringLiteral("one\r\ntwo\r\n\r\nfour \u00E9\u20AC");
     box->setText(text);
     EXPECT_EQ(box->text(), text);
+    // A no-break space and a lone form feed stay what they are.
+    box->setText(QStringLiteral("a\u00A0b\fc"));
+    EXPECT_EQ(box->text(), QStringLiteral("a\u00A0b\fc"));
     box->setText(QStringLiteral("ends with a break\r\n"));
     EXPECT_EQ(box->text(), QStringLiteral("ends with a break\r\n"));
     box->setText(QString());
@@ -266,11 +269,13 @@ TEST_P(RichTextBoxTest, IndentsAreTwipsAndApplyToTheSelectedParagraphs)
     EXPECT_EQ(box->SelRightIndent(), 450);
     box->setSelHangingIndent(300);
     EXPECT_EQ(box->SelHangingIndent(), 300);
-    EXPECT_EQ(box->SelIndent(), 720) << "a hanging indent does not move the paragraph's indent";
+    EXPECT_EQ(box->SelIndent(), 720) << "a hanging indent does not move the paragraph's first line";
 
-    // 720 twips are 48 pixels on the document.
+    // 720 twips are 48 pixels on the document, 300 are 20: the first line stands at 48, the
+    // lines after it 20 further in.
     const QTextBlock second = box->document()->findBlockByNumber(1);
-    EXPECT_DOUBLE_EQ(second.blockFormat().leftMargin(), 48.0);
+    EXPECT_DOUBLE_EQ(second.blockFormat().leftMargin() + second.blockFormat().textIndent(), 48.0);
+    EXPECT_DOUBLE_EQ(second.blockFormat().leftMargin(), 68.0);
     EXPECT_DOUBLE_EQ(box->document()->findBlockByNumber(0).blockFormat().leftMargin(), 0.0);
     EXPECT_DOUBLE_EQ(box->document()->findBlockByNumber(2).blockFormat().leftMargin(), 0.0);
 
@@ -280,6 +285,33 @@ TEST_P(RichTextBoxTest, IndentsAreTwipsAndApplyToTheSelectedParagraphs)
     box->setSelIndent(0);
     EXPECT_EQ(box->SelIndent(), 0);
     EXPECT_EQ(box->text(), QStringLiteral("first\r\nsecond\r\nthird"));
+}
+
+TEST_P(RichTextBoxTest, IndentingParagraphsKeepsTheirOwnAlignmentAndFirstLine)
+{
+    box->setText(QStringLiteral("heading\r\nbody"));
+    QTextCursor c(box->document());
+    QTextBlockFormat centred;
+    centred.setAlignment(Qt::AlignHCenter);
+    c.setBlockFormat(centred);
+    QTextCursor second(box->document()->findBlockByNumber(1));
+    QTextBlockFormat firstLineIn;
+    firstLineIn.setTextIndent(48);  // 720 twips
+    second.setBlockFormat(firstLineIn);
+
+    box->setSelStart(0);
+    box->setSelLength(box->text().size());
+    // The buttons of the bar: the indent of the caret's paragraph, 360 twips more, then less.
+    box->setSelIndent(box->SelIndent() + 360);
+    box->setSelIndent(box->SelIndent() - 360);
+    const QTextBlockFormat a = box->document()->findBlockByNumber(0).blockFormat();
+    const QTextBlockFormat b = box->document()->findBlockByNumber(1).blockFormat();
+    EXPECT_EQ(a.alignment(), Qt::AlignHCenter);
+    EXPECT_EQ(b.alignment(), Qt::AlignLeft) << "the caret paragraph's alignment is not copied";
+    EXPECT_DOUBLE_EQ(b.textIndent(), 48.0);
+    EXPECT_DOUBLE_EQ(b.leftMargin(), 0.0) << "in and out again is where it was";
+    box->setSelStart(6);  // in "body"
+    EXPECT_EQ(box->SelIndent(), 720);
 }
 
 TEST_P(RichTextBoxTest, SavesRichTextAndLoadsRichOrPlainText)
