@@ -273,7 +273,8 @@ bool skippedDestination(std::string_view w)
         "falt", "fldinst", "filetbl", "revtbl", "listtable", "listoverridetable", "rsidtbl",
         "generator", "xmlnstbl", "themedata", "colorschememapping", "latentstyles", "datastore",
         "pgdsctbl", "bkmkstart", "bkmkend", "template", "author", "operator", "title", "subject",
-        "keywords", "doccomm", "buptim", "creatim", "revtim", "printim", "txe", "nonshppict"};
+        "keywords", "doccomm", "buptim", "creatim", "revtim", "printim", "txe", "nonshppict",
+        "xe", "tc", "tcn", "rxe"};
     return std::find(std::begin(names), std::end(names), w) != std::end(names);
 }
 
@@ -318,6 +319,7 @@ private:
 
     void open()
     {
+        starred = false;  // \* marks only the first word of its own group
         if (overflow > 0 || int(stack.size()) >= maxDepth) {
             ++overflow;
             return;
@@ -332,6 +334,7 @@ private:
 
     void close()
     {
+        starred = false;
         if (overflow > 0) {
             --overflow;
             return;

@@ -370,6 +370,10 @@ TEST(RtfRead, DamagedFilesGiveWhatCouldBeRead)
         {"{\\rtf1 " + QByteArray(100000, '}'), QString()},
         {"{\\rtf1 \\" + QByteArray(5000, 'a') + " x}", QStringLiteral("x")},
         {QByteArray("{\\rtf1 a\0b}", 11), QStringLiteral("ab")},
+        // A star with nothing after it in its group does not hide the group around it.
+        {"{\\rtf1 {\\*}\\b Hello}", QStringLiteral("Hello")},
+        // Index entries and contents entries are no text of the page.
+        {"{\\rtf1 a{\\xe {\\v entry}}b{\\tc Heading}c{\\*\\rxe r}}", QStringLiteral("abc")},
     };
     for (const Case& c : cases) {
         auto doc = newDocument();
