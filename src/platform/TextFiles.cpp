@@ -186,7 +186,8 @@ bool writeScratch(const QString& path, const QByteArray& bytes)
     QFile f(path);
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
-    return f.write(bytes) == bytes.size();
+    // What stays in the buffer fails only when it is flushed.
+    return f.write(bytes) == bytes.size() && f.flush();
 }
 
 bool writeText(const QString& path, const QString& text, QString* error)

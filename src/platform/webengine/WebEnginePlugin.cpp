@@ -13,14 +13,21 @@ public:
     explicit WebEngineView(QWidget* parent) : view(new QWebEngineView(parent))
     {
         view->setObjectName(QStringLiteral("WebEngineView"));
-        QObject::connect(view->page(), &QWebEnginePage::linkHovered, view, [this](const QString& url) {
+        hovered = QObject::connect(view->page(), &QWebEnginePage::linkHovered, view, [this](const QString& url) {
             if (onLinkHovered)
                 onLinkHovered(url);
         });
-        QObject::connect(view, &QWebEngineView::loadFinished, view, [this](bool) {
+        loaded = QObject::connect(view, &QWebEngineView::loadFinished, view, [this](bool) {
             if (onLoadFinished)
                 onLoadFinished(view->url());
         });
+    }
+    // The view is its parent's child and may outlive this wrapper by a little: what it says
+    // after that must not reach the wrapper.
+    ~WebEngineView() override
+    {
+        QObject::disconnect(hovered);
+        QObject::disconnect(loaded);
     }
     QWidget* widget() override { return view; }
     void load(const QUrl& url) override { view->load(url); }
@@ -38,6 +45,7 @@ public:
 
 private:
     QWebEngineView* view;
+    QMetaObject::Connection hovered, loaded;
 };
 }
 
