@@ -5,9 +5,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <QHostAddress>
 #include <QPointer>
 #include <QTcpSocket>
+
+#include <unistd.h>
 
 std::function<void(const QString&)> FtpEngine::showFolder;
 
@@ -59,7 +63,22 @@ FtpEngine::~FtpEngine()
 
 bool FtpEngine::isConnected() const { return control->state() == QAbstractSocket::ConnectedState; }
 
-QString FtpEngine::downloadPath() { return QDir::tempPath() + QStringLiteral("/downme"); }
+QString FtpEngine::downloadFolder()
+{
+    const QString temp = qEnvironmentVariable("TEMP");
+    if (!temp.isEmpty())
+        return temp;
+    // Without TEMP the shared temporary folder would let another user put a file or a link in
+    // the download's place: a folder of the user's own inside it instead.
+    const QString own = QDir::tempPath() + QStringLiteral("/velloro-") + QString::number(::getuid());
+    QDir().mkdir(own, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QFileInfo info(own);
+    if (info.isDir() && !info.isSymLink() && info.ownerId() == ::getuid())
+        return own;
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+}
+
+QString FtpEngine::downloadPath() { return downloadFolder() + QStringLiteral("/downme"); }
 
 bool FtpEngine::waitUntil(const std::function<bool()>& done)
 {
@@ -130,8 +149,12 @@ void FtpEngine::disconnectSteps(bool withUpload)
     control->abort();
     closingControl = false;
     closeData();
-    // What a cut connection left half-received must not prefix the next server's banner.
+    // What a cut connection left half-received must not prefix the next server's banner, and
+    // what the last command was waiting for must not steer the next connection's data.
     buffer.clear();
+    tag1.clear();
+    tag2.clear();
+    replyCode = 0;
     Q_EMIT statusText(QStringLiteral("Disconnected from Server"));
     Q_EMIT serverDown(withUpload);
 }
@@ -142,6 +165,7 @@ void FtpEngine::closeData()
     upload.reset();
     uploadLeft = uploadUnsent = 0;
     download.reset();
+    listingHeld.clear();
     closingData = true;
     data->abort();
     closingData = false;
@@ -221,7 +245,7 @@ void FtpEngine::controlError(int socketError)
 
 void FtpEngine::dataConnected()
 {
-    if (tag2 == QLatin1String("RETR") && !download) {
+    if (tag2 == QLatin1String("RETR") && !download && !QFileInfo(downloadPath()).isSymLink()) {
         download = std::make_unique<QFile>(downloadPath());
         // Opened for writing without truncation: a shorter download leaves the tail of a longer one.
         if (!download->open(QIODevice::ReadWrite))
@@ -234,7 +258,8 @@ void FtpEngine::dataReadyRead()
 {
     const QByteArray bytes = data->readAll();
     if (tag2 == QLatin1String("LIST")) {
-        Q_EMIT listingData(TextFiles::decode(bytes));
+        // A character cut by the end of one arrival is finished by the next.
+        Q_EMIT listingData(QString::fromUtf8(TextFiles::toEditorText(listingHeld + bytes, &listingHeld)));
     } else if (tag2 == QLatin1String("RETR")) {
         if (!download)
             dataConnected();
@@ -252,10 +277,12 @@ void FtpEngine::dataClosed()
     const bool retrieved = tag2 == QLatin1String("RETR");
     if (retrieved)
         download.reset();
+    if (tag2 == QLatin1String("LIST") && !listingHeld.isEmpty())
+        Q_EMIT listingData(QString::fromUtf8(TextFiles::toEditorText(listingHeld)));
     tag2.clear();
     closeData();
     if (retrieved && showFolder)
-        showFolder(QDir::tempPath());
+        showFolder(downloadFolder());
 }
 
 void FtpEngine::dataError(int socketError)
@@ -302,6 +329,16 @@ void FtpEngine::SendFile(const QString& source, const QString& remoteName)
     sending = false;
 }
 
+namespace {
+// A name goes on one command line: a line break in it would start a command of its own.
+QString withoutLineBreaks(QString name)
+{
+    name.remove(QLatin1Char('\r'));
+    name.remove(QLatin1Char('\n'));
+    return name;
+}
+}
+
 void FtpEngine::sendOne(const QString& source, const QString& remoteName)
 {
     if (source.isEmpty()) {
@@ -309,7 +346,7 @@ void FtpEngine::sendOne(const QString& source, const QString& remoteName)
         return;
     }
     if (!FtpSendCommand(QStringLiteral("TYPE I")) || !FtpSendCommand(QStringLiteral("PASV")) ||
-        !FtpSendCommand(QStringLiteral("STOR ") + remoteName))
+        !FtpSendCommand(QStringLiteral("STOR ") + withoutLineBreaks(remoteName)))
         return;
     // The file is read piece by piece as the socket drains; one that cannot be read is sent
     // as what could be read of it: nothing.

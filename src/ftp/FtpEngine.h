@@ -63,6 +63,9 @@ public:
     qint64 bytesReceived() const { return received; }
 
     // The file a download goes to: TEMP/downme.
+    // Where a download goes: the folder named by TEMP, else a folder of the user's own in the
+    // temporary folder.
+    static QString downloadFolder();
     static QString downloadPath();
     // Shows the folder that received a download. The windows set it to the desktop's file
     // manager; tests replace it so that nothing starts.
@@ -124,6 +127,7 @@ private:
     qint16 replyCode = 0;
     QString tag1;
     QString tag2;
+    QByteArray listingHeld;  // the start of a character the last listing arrival cut
     // Rises on every disconnect: a wait that began in an older session is over.
     quint64 session = 0;
     int waits = 0;

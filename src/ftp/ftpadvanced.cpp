@@ -207,4 +207,8 @@ void ftpadvanced::Command6_Click() { ftp->ViewFiles(); }
 
 void ftpadvanced::Command7_Click() { ftp->SendFile(Text8->text(), Text11->text()); }
 
-void ftpadvanced::inputdata1_Click() { ftp->Retrieve(Text9->toPlainText()); }
+void ftpadvanced::inputdata1_Click()
+{
+    // The box holds its line ends as CR LF, as the command is sent.
+    ftp->Retrieve(Text9->toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")));
+}

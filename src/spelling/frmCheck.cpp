@@ -10,6 +10,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -103,8 +104,10 @@ frmCheck::frmCheck(QWidget* parent) : QDialog(parent)
     connect(txtChangeTo, &QLineEdit::textChanged, this, Event([this](const QString&) { txtChangeTo_Change(); }));
     txtWord->installEventFilter(this);
 
-    // The walk serves the event queue on long runs of word characters.
-    walker.serveEvents = [] { QCoreApplication::processEvents(); };
+    // The walk serves the event queue on long runs of word characters, so the windows repaint;
+    // not the user's clicks and keys, which could close the notepad under the walk or start a
+    // second walk inside this one.
+    walker.serveEvents = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
 }
 
 void frmCheck::ensureLoaded()

@@ -124,7 +124,7 @@ TEST_P(EngineAgainstServer, RetrieveWritesDownmeWithoutTruncatingAndShowsTheFold
         ASSERT_FALSE(guard.timedOut);
     }
     ASSERT_TRUE(spinUntil([this] { return shownFolders.size() == 1; }));
-    EXPECT_EQ(shownFolders[0], QDir::tempPath());
+    EXPECT_EQ(shownFolders[0], FtpEngine::downloadFolder());
     QFile f(FtpEngine::downloadPath());
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_TRUE(f.readAll() == longer);

@@ -6,7 +6,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <unistd.h>
 
 namespace {
 const QString host = QStringLiteral("127.0.0.1");
@@ -413,4 +416,62 @@ TEST_F(EngineFaults, ANewConnectEndsTheOldWaitBelowIt)
     EXPECT_FALSE(guard.timedOut);
     EXPECT_TRUE(second);
     EXPECT_TRUE(engine.isConnected());
+}
+
+TEST_F(EngineFaults, AListingCharacterCutBetweenTwoArrivalsStaysOneCharacter)
+{
+    login();
+    fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
+    fake.on("LIST", [this](const QByteArray&) {
+        fake.send("150 Here it comes\r\n");
+        spinUntil([this] { return fake.data != nullptr; }, 5000);
+        // "café.htm" with the two bytes of the e acute in two arrivals.
+        fake.data->write("caf\xc3");
+        fake.data->flush();
+        spinUntil([this] { return rec.listing == QStringLiteral("caf"); }, 5000);
+        fake.data->write("\xa9.htm\r\n");
+        fake.data->flush();
+        fake.data->disconnectFromHost();
+        fake.send("226 Done\r\n");
+    });
+    CutWhen guard(engine, nullptr, 10000);
+    engine.ViewFiles();
+    EXPECT_FALSE(guard.timedOut);
+    EXPECT_TRUE(spinUntil([this] { return rec.listing.endsWith(QStringLiteral("\r\n")); }));
+    EXPECT_EQ(rec.listing, QStringLiteral("caf\u00e9.htm\r\n"));
+}
+
+TEST_F(EngineFaults, ALineBreakInAFileNameStartsNoCommandOfItsOwn)
+{
+    login();
+    scriptStor(fake);
+    fake.onData = [this] {
+        if (fake.data && fake.received.size() >= 3) {
+            fake.data->disconnectFromHost();
+            fake.send("226 Done\r\n");
+        }
+    };
+    CutWhen guard(engine, nullptr, 10000);
+    engine.SendFile(local("abc"), QStringLiteral("a\r\nDELE index.html"));
+    EXPECT_FALSE(guard.timedOut);
+    EXPECT_TRUE(fake.lines.contains(QByteArray("STOR aDELE index.html")));
+    EXPECT_FALSE(seen("DELE"));
+}
+
+TEST(DownloadFolder, TempWhenSetElseAFolderOfTheUsersOwn)
+{
+    const QByteArray old = qgetenv("TEMP");
+    QTemporaryDir mine;
+    qputenv("TEMP", mine.path().toUtf8());
+    EXPECT_EQ(FtpEngine::downloadFolder(), mine.path());
+    EXPECT_EQ(FtpEngine::downloadPath(), mine.path() + QStringLiteral("/downme"));
+    qunsetenv("TEMP");
+    const QFileInfo own(FtpEngine::downloadFolder());
+    if (!old.isEmpty())
+        qputenv("TEMP", old);
+    EXPECT_TRUE(own.isDir());
+    EXPECT_EQ(own.ownerId(), ::getuid());
+    EXPECT_EQ(own.permissions() & (QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ReadGroup | QFileDevice::WriteGroup),
+              QFileDevice::Permissions()) << "nobody else may put a file there";
+    EXPECT_NE(own.absoluteFilePath(), QFileInfo(QDir::tempPath()).absoluteFilePath());
 }
