@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QTcpSocket>
 
+#include <tuple>
+
 #include <unistd.h>
 
 std::function<void(const QString&)> FtpEngine::showFolder;
@@ -189,7 +191,12 @@ bool FtpEngine::FtpSendCommand(const QString& command, qint16& result)
     if (!entry.dataTag.isEmpty())
         tag2 = entry.dataTag;
     if (entry.awaited != 0) {
-        if (!waitUntil([this, &entry] { return replyCode == entry.awaited || (entry.alike != 0 && replyCode == entry.alike); }))
+        const auto outer = std::make_pair(awaitedCode, awaitedAlike);
+        awaitedCode = entry.awaited;
+        awaitedAlike = entry.alike;
+        const bool done = waitUntil([this] { return isAwaited(replyCode); });
+        std::tie(awaitedCode, awaitedAlike) = outer;
+        if (!done)
             return false;
     }
     if (entry.second != 0 && replyCode == entry.second)
@@ -210,10 +217,19 @@ void FtpEngine::controlReadyRead()
         handleLine(line);
 }
 
+bool FtpEngine::isAwaited(int code) const
+{
+    return code != 0 && (code == awaitedCode || (awaitedAlike != 0 && code == awaitedAlike));
+}
+
 void FtpEngine::handleLine(const QString& line)
 {
-    replyCode = FtpReply::replyCode(line);
-    if (replyCode == 227) {
+    const qint16 code = FtpReply::replyCode(line);
+    // A later line of the same arrival (a server's answer to a stray empty line, say) does not
+    // hide the code a command is waiting for.
+    if (!isAwaited(replyCode))
+        replyCode = code;
+    if (code == 227) {
         const FtpReply::Passive p = FtpReply::parsePassive(line);
         if (p.ok) {
             closeData();

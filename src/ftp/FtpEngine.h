@@ -125,6 +125,10 @@ private:
     quint16 serverPort = 21;
     FtpReply::Buffer buffer;
     qint16 replyCode = 0;
+    // The codes the innermost waiting command ends on.
+    int awaitedCode = 0;
+    int awaitedAlike = 0;
+    bool isAwaited(int code) const;
     QString tag1;
     QString tag2;
     QByteArray listingHeld;  // the start of a character the last listing arrival cut

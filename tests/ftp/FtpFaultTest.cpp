@@ -475,3 +475,25 @@ TEST(DownloadFolder, TempWhenSetElseAFolderOfTheUsersOwn)
               QFileDevice::Permissions()) << "nobody else may put a file there";
     EXPECT_NE(own.absoluteFilePath(), QFileInfo(QDir::tempPath()).absoluteFilePath());
 }
+
+TEST_F(EngineFaults, TheAwaitedReplyIsSeenEvenWithAnotherLineBehindItInTheSameArrival)
+{
+    QFile::remove(FtpEngine::downloadPath());
+    login();
+    fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
+    fake.on("RETR", [this](const QByteArray&) {
+        fake.send("150 Sending\r\n");
+        spinUntil([this] { return fake.data != nullptr; }, 5000);
+        fake.data->write("body");
+        fake.data->flush();
+        fake.data->disconnectFromHost();
+        // The answer to an empty line the retrieve box sent after the command comes in the
+        // same arrival as the 226.
+        fake.send("226 Transfer complete\r\n500 Unknown command\r\n");
+    });
+    CutWhen guard(engine, nullptr, 10000);
+    engine.Retrieve(QStringLiteral("RETR page.htm\r\n"));
+    EXPECT_FALSE(guard.timedOut) << "the wait for 226 ended by itself";
+    EXPECT_EQ(engine.activeWaits(), 0);
+    QFile::remove(FtpEngine::downloadPath());
+}
