@@ -203,12 +203,26 @@ void ftpadvanced::Command1_Click()
 
 void ftpadvanced::Command5_Click() { ftp->CutConnection(); }
 
-void ftpadvanced::Command6_Click() { ftp->ViewFiles(); }
+// A command pressed while another waits for its reply would take that reply and cut its data
+// connection: the commands wait their turn, only a cut goes through.
+bool ftpadvanced::busy() const { return ftp->activeWaits() > 0; }
 
-void ftpadvanced::Command7_Click() { ftp->SendFile(Text8->text(), Text11->text()); }
+void ftpadvanced::Command6_Click()
+{
+    if (!busy())
+        ftp->ViewFiles();
+}
+
+void ftpadvanced::Command7_Click()
+{
+    if (!busy())
+        ftp->SendFile(Text8->text(), Text11->text());
+}
 
 void ftpadvanced::inputdata1_Click()
 {
+    if (busy())
+        return;
     // The box holds its line ends as CR LF, as the command is sent.
     ftp->Retrieve(Text9->toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")));
 }

@@ -49,6 +49,7 @@ public:
     QPushButton* inputdata1 = nullptr;
 
 private:
+    bool busy() const;
     void appendLog(const QString& line);
     void refreshDetails();
     FtpEngine* ftp = nullptr;

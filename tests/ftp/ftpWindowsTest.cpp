@@ -662,3 +662,27 @@ TEST_F(FtpWindowTest, ProgressCountsUpToTheFileSizeAndNoFurther)
     EXPECT_EQ(w->ProgressBar2->value(), 10);
     EXPECT_EQ(w->panelText(3), QStringLiteral("Sent 10bytes of 10"));
 }
+
+TEST_F(FtpWindowDataErrorTest, CommandsPressedWhileAnUploadWaitsWaitTheirTurn)
+{
+    // The upload's 226 never comes: its wait lasts until the user cuts.
+    fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
+    ftpnormal* w = upload();
+    w->addFile(QStringLiteral("a.txt"), localFile(QStringLiteral("a.txt"), "aaa"));
+    ftpadvanced* a = advanced();
+    a->Text9->setPlainText(QStringLiteral("RETR x.htm"));
+    whenTrue(w, [this] { return fake.received.size() == 3; }, [this, a] {
+        const qsizetype before = fake.lines.size();
+        a->Command6->click();
+        a->inputdata1->click();
+        a->Command7->click();
+        EXPECT_EQ(fake.lines.size(), before) << "nothing went out while the upload waited";
+        a->Command5->click();
+    }, 10000);
+    whenTrue(w, [] { return false; }, [a] { a->Command5->click(); }, 15000);  // a guard only
+    prompts.answerMsgBox(Answer::OK);  // the queue's end, after the cut
+    w->Command2->click();
+    EXPECT_TRUE(fake.lines.contains(QByteArray("STOR a.txt")));
+    EXPECT_FALSE(fake.lines.contains(QByteArray("LIST")));
+    EXPECT_EQ(a->engine()->activeWaits(), 0);
+}
