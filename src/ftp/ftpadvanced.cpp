@@ -203,8 +203,9 @@ void ftpadvanced::Command1_Click()
 
 void ftpadvanced::Command5_Click() { ftp->CutConnection(); }
 
-// A command pressed while another waits for its reply would take that reply and cut its data
-// connection: the commands wait their turn, only a cut goes through.
+// A listing or a download asked for while another command waits for its reply would take that
+// reply and cut its data connection: they wait their turn. Send File stays open, since the
+// upload queue presses it to send its next file.
 bool ftpadvanced::busy() const { return ftp->activeWaits() > 0; }
 
 void ftpadvanced::Command6_Click()
@@ -213,11 +214,7 @@ void ftpadvanced::Command6_Click()
         ftp->ViewFiles();
 }
 
-void ftpadvanced::Command7_Click()
-{
-    if (!busy())
-        ftp->SendFile(Text8->text(), Text11->text());
-}
+void ftpadvanced::Command7_Click() { ftp->SendFile(Text8->text(), Text11->text()); }
 
 void ftpadvanced::inputdata1_Click()
 {
