@@ -33,6 +33,17 @@ protected:
         ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
         ASSERT_FALSE(guard.timedOut);
     }
+    // One transfer on the data connection as a server makes it: the opening reply, the bytes
+    // once the client has connected, the close, then what the server says at the end.
+    void transfer(const QByteArray& opening, const QByteArray& bytes, const QByteArray& closing)
+    {
+        fake.send(opening);
+        spinUntil([this] { return fake.data != nullptr; }, 5000);
+        fake.data->write(bytes);
+        fake.data->flush();
+        fake.data->disconnectFromHost();
+        fake.send(closing);
+    }
     bool seen(const QByteArray& verb) const
     {
         for (const QByteArray& l : fake.lines)
@@ -252,12 +263,7 @@ TEST_F(EngineFaults, APassiveReplyNamingAnotherHostStillConnectsToThePeer)
     login();
     fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv("10,99,88,77")); });
     fake.on("LIST", [this](const QByteArray&) {
-        fake.send("150 Here it comes\r\n");
-        spinUntil([this] { return fake.data != nullptr; }, 5000);
-        fake.data->write("-rw-r--r-- 1 u g 5 Jan 1 00:00 page.htm\r\n");
-        fake.data->flush();
-        fake.data->disconnectFromHost();
-        fake.send("226 Done\r\n");
+        transfer("150 Here it comes\r\n", "-rw-r--r-- 1 u g 5 Jan 1 00:00 page.htm\r\n", "226 Done\r\n");
     });
     CutWhen guard(engine, nullptr, 10000);
     engine.ViewFiles();
@@ -292,12 +298,7 @@ TEST_F(EngineFaults, ADownloadCutShortKeepsWhatCameAndShowsTheFolder)
     login();
     fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
     fake.on("RETR", [this](const QByteArray&) {
-        fake.send("150 Sending 5000 bytes\r\n");
-        spinUntil([this] { return fake.data != nullptr; }, 5000);
-        fake.data->write(QByteArray(1000, 'd'));
-        fake.data->flush();
-        fake.data->disconnectFromHost();
-        fake.send("226 Transfer complete\r\n");
+        transfer("150 Sending 5000 bytes\r\n", QByteArray(1000, 'd'), "226 Transfer complete\r\n");
     });
     CutWhen guard(engine, nullptr, 10000);
     engine.Retrieve(QStringLiteral("RETR big.bin"));
@@ -482,14 +483,9 @@ TEST_F(EngineFaults, TheAwaitedReplyIsSeenEvenWithAnotherLineBehindItInTheSameAr
     login();
     fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
     fake.on("RETR", [this](const QByteArray&) {
-        fake.send("150 Sending\r\n");
-        spinUntil([this] { return fake.data != nullptr; }, 5000);
-        fake.data->write("body");
-        fake.data->flush();
-        fake.data->disconnectFromHost();
         // The answer to an empty line the retrieve box sent after the command comes in the
         // same arrival as the 226.
-        fake.send("226 Transfer complete\r\n500 Unknown command\r\n");
+        transfer("150 Sending\r\n", "body", "226 Transfer complete\r\n500 Unknown command\r\n");
     });
     CutWhen guard(engine, nullptr, 10000);
     engine.Retrieve(QStringLiteral("RETR page.htm\r\n"));
