@@ -4,42 +4,21 @@
 
 #include <gtest/gtest.h>
 
-TEST(ColourText, PresetColoursOfTheSettings)
+// The pairs come out turned round, in capital digits; a short hex text is padded before they
+// are turned.
+TEST(ColourText, BareAndQuotedTexts)
 {
-    EXPECT_EQ(ColourText::quoted(255), QStringLiteral("\"#FF0000\""));
-    EXPECT_EQ(ColourText::quoted(16711680), QStringLiteral("\"#0000FF\""));
-    EXPECT_EQ(ColourText::quoted(65280), QStringLiteral("\"#00FF00\""));
-    EXPECT_EQ(ColourText::bare(255), QStringLiteral("#FF0000"));
-    EXPECT_EQ(ColourText::bare(16711680), QStringLiteral("#0000FF"));
-    EXPECT_EQ(ColourText::bare(65280), QStringLiteral("#00FF00"));
-}
-
-TEST(ColourText, BlackAndWhite)
-{
-    EXPECT_EQ(ColourText::bare(0), QStringLiteral("#000000"));
-    EXPECT_EQ(ColourText::quoted(0), QStringLiteral("\"#000000\""));
-    EXPECT_EQ(ColourText::bare(0xFFFFFF), QStringLiteral("#FFFFFF"));
-    EXPECT_EQ(ColourText::quoted(0xFFFFFF), QStringLiteral("\"#FFFFFF\""));
-}
-
-TEST(ColourText, ShortHexIsPaddedBeforeThePairsAreSwapped)
-{
-    EXPECT_EQ(ColourText::bare(0x0A), QStringLiteral("#0A0000"));
-    EXPECT_EQ(ColourText::bare(0x01), QStringLiteral("#010000"));
-    EXPECT_EQ(ColourText::bare(0x0100), QStringLiteral("#000100"));
-    EXPECT_EQ(ColourText::bare(0x0F00), QStringLiteral("#000F00"));
-    EXPECT_EQ(ColourText::bare(0x010000), QStringLiteral("#000001"));
-    EXPECT_EQ(ColourText::bare(0x00B0C0), QStringLiteral("#C0B000"));
-}
-
-TEST(ColourText, ChannelsInRedGreenBlueOrderWithCapitalDigits)
-{
-    // red 0x56, green 0x34, blue 0x12
-    EXPECT_EQ(ColourText::bare(0x123456), QStringLiteral("#563412"));
-    // red 0xef, green 0xcd, blue 0xab
-    EXPECT_EQ(ColourText::quoted(0xABCDEF), QStringLiteral("\"#EFCDAB\""));
-    // RGB 52, 129, 211: the bars' colour
-    EXPECT_EQ(ColourText::bare(52 + 129 * 256 + 211 * 65536), QStringLiteral("#3481D3"));
+    const struct { int value; const char* text; } cases[] = {
+        {255, "#FF0000"}, {16711680, "#0000FF"}, {65280, "#00FF00"},  // the settings' presets
+        {0, "#000000"}, {0xFFFFFF, "#FFFFFF"},
+        {0x0A, "#0A0000"}, {0x01, "#010000"}, {0x0100, "#000100"}, {0x0F00, "#000F00"}, {0x010000, "#000001"},
+        {0x00B0C0, "#C0B000"}, {0x123456, "#563412"}, {0xABCDEF, "#EFCDAB"},
+        {52 + 129 * 256 + 211 * 65536, "#3481D3"},  // RGB 52, 129, 211: the bars' colour
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ColourText::bare(c.value), QString::fromLatin1(c.text)) << c.value;
+        EXPECT_EQ(ColourText::quoted(c.value), QStringLiteral("\"%1\"").arg(QLatin1String(c.text))) << c.value;
+    }
 }
 
 TEST(ColourText, DialogStepsGiveTheSameTextBothWays)

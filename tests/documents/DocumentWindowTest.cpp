@@ -12,13 +12,13 @@
 #include "shell/frmMain.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
-#include <QSignalSpy>
 #include <QTabWidget>
 
 namespace {
@@ -86,47 +86,6 @@ TEST_F(DocumentTest, SyntaxListAndNoneTurnsColouringOff)
     EXPECT_NE(doc->CodeMax1()->lexer(), nullptr);
 }
 
-TEST_F(DocumentTest, InsertionGoesToTheActiveDocumentAtTheCaret)
-{
-    frmDocument* first = newPage();
-    first->CodeMax1()->setText(QStringLiteral("<p></p>"));
-    first->CodeMax1()->setCursorPosition(0, 3);
-    frmDocument* second = newPage();
-    second->CodeMax1()->setText(QStringLiteral("abc"));
-    second->CodeMax1()->setSelection(0, 1, 0, 2);
-
-    EXPECT_EQ(active(), second);
-    insert(QStringLiteral("\r\n<hr>\r\n"));
-    EXPECT_EQ(second->CodeMax1()->text(), QStringLiteral("a\r\n<hr>\r\nc")) << "the selection is replaced";
-    EXPECT_FALSE(second->CodeMax1()->hasSelectedText());
-    int line = 0, index = 0;
-    second->CodeMax1()->getCursorPosition(&line, &index);
-    EXPECT_EQ(line, 2);
-    EXPECT_EQ(index, 0) << "the caret stands behind the inserted text";
-
-    frmMain::instance()->activate(first);
-    EXPECT_EQ(active(), first);
-    insert(QStringLiteral("<b>"));
-    EXPECT_EQ(first->CodeMax1()->text(), QStringLiteral("<p><b></p>"));
-    EXPECT_EQ(second->CodeMax1()->text(), QStringLiteral("a\r\n<hr>\r\nc"));
-
-    // The form group leaves out the collapse: the text stays selected.
-    active()->CodeMax1()->setSelText(QStringLiteral("<form>"));
-    EXPECT_EQ(active()->CodeMax1()->SelText(), QStringLiteral("<form>"));
-}
-
-TEST_F(DocumentTest, NoDocumentMeansNoActiveForm)
-{
-    frmMain* main = frmMain::instance();
-    EXPECT_EQ(main->ActiveForm(), nullptr);
-    // A caller that does not guard runs into a run-time error, which its trap swallows.
-    EXPECT_FALSE(OnErrorExit([&] {
-        if (!main->ActiveForm())
-            throw RuntimeError::objectRequired();
-        insert(QStringLiteral("x"));
-    }));
-}
-
 TEST_F(DocumentTest, EditsMarkTheDocumentChangedAndUpdateTheStatus)
 {
     frmDocument* doc = newPage();
@@ -176,16 +135,6 @@ TEST_F(DocumentTest, ActivationSetsTheCaptionAndTheStatus)
     EXPECT_EQ(main->windowTitle(), QStringLiteral("Velloro 2002 : Version 1.0.0 [ /tmp/site/index.htm ]"));
     EXPECT_EQ(main->statusText(1), QStringLiteral("Page Loaded ::  /tmp/site/index.htm"));
     EXPECT_EQ(main->statusText(3), QStringLiteral("Chr: 1"));
-}
-
-TEST_F(DocumentTest, UnchangedPageClosesSilently)
-{
-    frmDocument* doc = newPage();
-    doc->Changedvalue()->setText(QString());
-    EXPECT_TRUE(doc->Unload());
-    processEvents();
-    EXPECT_EQ(frmMain::instance()->ActiveForm(), nullptr);
-    EXPECT_TRUE(prompts.prompts().isEmpty());
 }
 
 TEST_F(DocumentTest, CloseQuestionCancelAndNo)
@@ -278,33 +227,6 @@ TEST_F(DocumentTest, ShutDownAsksAboutEachPageWhileItIsActive)
     EXPECT_TRUE(CloseAllWindows());
     EXPECT_EQ(folder.read(QStringLiteral("a.htm")), QByteArray("text of a"));
     EXPECT_EQ(folder.read(QStringLiteral("b.htm")), QByteArray("text of b"));
-}
-
-TEST_F(DocumentTest, PreviewLoadsThePageIntoTheBrowser)
-{
-    frmDocument* doc = newPage();
-    const QString page = folder.file(QStringLiteral("preview.html"));
-    folder.write(QStringLiteral("preview.html"),
-                 "<html><body style='background:#3481d3'><a href='http://example.invalid/x'>link</a></body></html>");
-    QSignalSpy status(doc->WebBrowser1(), &WebBrowser::StatusTextChange);
-    doc->WebBrowser1()->Navigate(page);
-    EXPECT_TRUE(doc->WebBrowser1()->isCreated());
-    auto done = [&status] {
-        for (const auto& args : status)
-            if (args.first().toString() == QLatin1String("Done"))
-                return true;
-        return false;
-    };
-    for (int i = 0; i < 60 && !done(); ++i)
-        status.wait(500);
-    ASSERT_TRUE(done()) << "no load finished";
-    EXPECT_EQ(doc->WebBrowser1()->LocationURL(), QUrl::fromLocalFile(page));
-    if (qEnvironmentVariableIsSet("VELLORO_SHOT")) {
-        doc->SSTab1->setCurrentIndex(1);
-        QSignalSpy again(doc->WebBrowser1(), &WebBrowser::StatusTextChange);
-        again.wait(3000);
-        frmMain::instance()->grab().save(qEnvironmentVariable("VELLORO_SHOT"));
-    }
 }
 
 TEST_F(DocumentTest, PrintGoesThroughTheRichTextCopy)

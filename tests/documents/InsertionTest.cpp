@@ -140,12 +140,3 @@ TEST_F(InsertionTest, InsertTextRedirectsInANotepad)
     newPage(QString());
     EXPECT_FALSE(RedirectInNotepad());
 }
-
-TEST_F(InsertionTest, FormGroupLeavesItsTextSelected)
-{
-    frmDocument* page = newPage(QStringLiteral("ab"));
-    page->CodeMax1()->setCursorPosition(0, 1);
-    InsertSelected(QStringLiteral("<form></form>"));
-    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("a<form></form>b"));
-    EXPECT_EQ(page->CodeMax1()->SelText(), QStringLiteral("<form></form>"));
-}

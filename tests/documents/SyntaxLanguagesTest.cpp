@@ -6,7 +6,6 @@
 #include "documents/SyntaxLanguages.h"
 #include "documents/frmDocument.h"
 #include "platform/CodeMax.h"
-#include "shell/frmMain.h"
 
 #include <Qsci/qscilexersql.h>
 
@@ -467,9 +466,7 @@ TEST_F(SyntaxStartup, StartUpRegistersTheLanguages)
     EXPECT_NE(languageRecord(QStringLiteral("Delphi")), nullptr);
 
     // The web page window's language list reaches them by name.
-    auto* doc = new frmDocument;
-    frmMain::instance()->addDocument(doc);
-    doc->CodeMax1()->setText(QStringLiteral("begin end"));
+    frmDocument* doc = newPage(QStringLiteral("begin end"));
     Q_EMIT doc->SYNTAXTYPE()->textActivated(QStringLiteral("Delphi"));
     ASSERT_NE(doc->CodeMax1()->lexer(), nullptr);
     EXPECT_STREQ(doc->CodeMax1()->lexer()->language(), "Delphi");

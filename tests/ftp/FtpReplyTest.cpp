@@ -17,15 +17,6 @@ TEST(FtpReplyBuffer, JoinsAReplySplitOverArrivals)
     EXPECT_TRUE(b.pending().isEmpty());
 }
 
-TEST(FtpReplyBuffer, SeveralRepliesInOneArrivalComeInOrder)
-{
-    Buffer b;
-    const QList<QString> lines = b.append("150 Opening\r\n226 Done\r\n230-a\r\n230 b\r\nrest");
-    EXPECT_EQ(lines, (QList<QString>{QStringLiteral("150 Opening"), QStringLiteral("226 Done"), QStringLiteral("230-a"),
-                                     QStringLiteral("230 b")}));
-    EXPECT_EQ(b.pending(), QByteArray("rest"));
-}
-
 TEST(FtpReplyBuffer, ByteByByteAndBareLineEnds)
 {
     Buffer b;
@@ -37,18 +28,6 @@ TEST(FtpReplyBuffer, ByteByByteAndBareLineEnds)
     b.append("half");
     b.clear();
     EXPECT_EQ(b.append("226 x\r\n"), QList<QString>{QStringLiteral("226 x")});
-}
-
-TEST(FtpReplyBuffer, AHugeLineInSmallPiecesStaysWhole)
-{
-    Buffer b;
-    const QByteArray piece(4096, 'x');
-    for (int i = 0; i < 256; ++i)
-        ASSERT_TRUE(b.append(piece).isEmpty());
-    EXPECT_EQ(b.pending().size(), 256 * 4096);
-    const QList<QString> lines = b.append("\r\n");
-    ASSERT_EQ(lines.size(), 1);
-    EXPECT_EQ(lines[0].size(), 256 * 4096);
 }
 
 TEST(FtpReplyCode, LeadingDigitsOfTheFirstThreeCharacters)

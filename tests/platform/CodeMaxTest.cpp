@@ -121,18 +121,6 @@ TEST_F(CodeMaxTest, InsertionLeavesTheCaretBehindTheTextWithNothingSelected)
     EXPECT_EQ(caret(), 14);
 }
 
-TEST_F(CodeMaxTest, InsertionAtACaretInsideTheText)
-{
-    editor.setText(QStringLiteral("abcdef"));
-    setCaret(3);
-    insert(QStringLiteral("XY"));
-    EXPECT_EQ(editor.text(), QStringLiteral("abcXYdef"));
-    EXPECT_EQ(caret(), 5);
-    EXPECT_FALSE(editor.hasSelectedText());
-    insert(QStringLiteral("Z"));
-    EXPECT_EQ(editor.text(), QStringLiteral("abcXYZdef"));
-}
-
 TEST_F(CodeMaxTest, InsertionReplacesTheSelection)
 {
     editor.setText(QStringLiteral("Hello World!"));
@@ -538,32 +526,16 @@ TEST_F(CodeMaxTest, ANulCharacterIsTextLikeAnyOther)
     EXPECT_EQ(readFile(path), QByteArray("x\0y\0z", 5));
 }
 
-TEST_F(CodeMaxTest, TextLengthCountsCharacters)
+TEST_F(CodeMaxTest, LineCountAndTextLengthInCharacters)
 {
-    editor.setText(QStringLiteral("a\u00E9\u20AC\r\n"));
-    EXPECT_EQ(editor.TextLength(), 5) << "a, e acute, euro, CR, LF";
-    editor.setText(QStringLiteral("plain"));
-    EXPECT_EQ(editor.TextLength(), 5);
-    editor.setText(QString());
-    EXPECT_EQ(editor.TextLength(), 0);
-}
-
-TEST_F(CodeMaxTest, LineCount)
-{
-    struct Case { const char* text; int lines; };
-    for (const Case& c : {Case{"", 1}, Case{"a", 1}, Case{"a\r\nb", 2}, Case{"a\r\n", 2},
-                          Case{"a\r\nb\r\nc", 3}, Case{"\r\n\r\n", 3}}) {
-        editor.setText(QString::fromLatin1(c.text));
-        EXPECT_EQ(editor.LineCount(), c.lines) << visible(QString::fromLatin1(c.text));
+    struct Case { QString text; int lines; int length; };
+    for (const Case& c : {Case{"", 1, 0}, Case{"a", 1, 1}, Case{"a\r\nb", 2, 4}, Case{"a\r\n", 2, 3},
+                          Case{"a\r\nb\r\nc", 3, 7}, Case{"\r\n\r\n", 3, 4},
+                          Case{QStringLiteral("a\u00E9\u20AC\r\n"), 2, 5}}) {  // a, e acute, euro, CR, LF
+        editor.setText(c.text);
+        EXPECT_EQ(editor.LineCount(), c.lines) << visible(c.text);
+        EXPECT_EQ(editor.TextLength(), c.length) << visible(c.text);
     }
-}
-
-TEST_F(CodeMaxTest, EnterStartsAWindowsLine)
-{
-    editor.setText(QStringLiteral("ab"));
-    setCaret(1);
-    editor.SendScintilla(Sci::SCI_NEWLINE);
-    EXPECT_EQ(editor.text(), QStringLiteral("a\r\nb"));
 }
 
 TEST_F(CodeMaxTest, DeleteSelRemovesOnlyTheSelection)

@@ -43,13 +43,6 @@ protected:
         c.setPosition(pos + 1);  // the format of the character before the position
         return c.charFormat();
     }
-    QByteArray readFile(const QString& path) const
-    {
-        QFile f(path);
-        if (!f.open(QIODevice::ReadOnly))
-            return QByteArray("<missing>");
-        return f.readAll();
-    }
 
     ScriptedPrompts prompts;
     QTemporaryDir dir;
@@ -162,20 +155,6 @@ TEST_P(RichTextBoxTest, FindOfMissingTextGivesMinusOneAndKeepsTheSelection)
     EXPECT_EQ(box->find(QStringLiteral("Worlds")), -1);
     box->setText(QString());
     EXPECT_EQ(box->find(QStringLiteral("x")), -1);
-}
-
-TEST_P(RichTextBoxTest, FoundPositionGivesTheLineOfTheMatch)
-{
-    // Find and go-to report "Word found on line " plus GetLineFromChar(position) + 1.
-    box->setText(QStringLiteral("first line\r\nsecond line\r\nthe third has the Word\r\nfourth"));
-    const int word = box->find(QStringLiteral("word"));
-    ASSERT_GE(word, 0);
-    EXPECT_EQ(box->SelText(), QStringLiteral("Word"));
-    EXPECT_EQ(box->GetLineFromChar(word), 2);
-    const int second = box->find(QStringLiteral("SECOND"));
-    EXPECT_EQ(box->GetLineFromChar(second), 1);
-    EXPECT_EQ(box->GetLineFromChar(box->find(QStringLiteral("first"))), 0);
-    EXPECT_EQ(box->GetLineFromChar(box->find(QStringLiteral("fourth"))), 3);
 }
 
 TEST_P(RichTextBoxTest, LineFromChar)
@@ -312,36 +291,6 @@ TEST_P(RichTextBoxTest, IndentingParagraphsKeepsTheirOwnAlignmentAndFirstLine)
     EXPECT_DOUBLE_EQ(b.leftMargin(), 0.0) << "in and out again is where it was";
     box->setSelStart(6);  // in "body"
     EXPECT_EQ(box->SelIndent(), 720);
-}
-
-TEST_P(RichTextBoxTest, SavesRichTextAndLoadsRichOrPlainText)
-{
-    const QString path = dir.filePath(QStringLiteral("note.rtf"));
-    const QString text = QStringLiteral("Dear diary\r\ncaf\u00E9 \u20AC\r\n\r\nend");
-    box->setText(text);
-    box->SaveFile(path);
-    const QByteArray saved = readFile(path);
-    EXPECT_TRUE(saved.startsWith("{\\rtf1")) << saved.constData();
-    EXPECT_TRUE(saved.contains("\\u8364?")) << "non-ASCII text is written as \\u escapes";
-
-    RichTextBox other(GetParam(), &window, &window);
-    other.LoadFile(path);
-    EXPECT_EQ(other.text(), text);
-
-    // Saving again replaces the file as a whole.
-    box->setText(QStringLiteral("short"));
-    box->SaveFile(path);
-    other.LoadFile(path);
-    EXPECT_EQ(other.text(), QStringLiteral("short"));
-
-    // A file that is not rich text loads as plain text.
-    const QString plain = dir.filePath(QStringLiteral("note.txt"));
-    QFile f(plain);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("plain\r\ncaf\xC3\xA9");
-    f.close();
-    other.LoadFile(plain);
-    EXPECT_EQ(other.text(), QStringLiteral("plain\r\ncaf\u00E9"));
 }
 
 TEST_P(RichTextBoxTest, FileErrors)

@@ -50,17 +50,6 @@ TEST(OnErrorExitGuard, EndsTheBodyAtTheFailingStatement)
     EXPECT_EQ(ran, (std::vector<int>{1, 2}));
 }
 
-TEST(OnErrorExitGuard, FailureDeepInACallIsCaught)
-{
-    int after = 0;
-    auto failing = [] { throw RuntimeError::objectRequired(); };
-    EXPECT_FALSE(OnErrorExit([&] {
-        failing();
-        ++after;
-    }));
-    EXPECT_EQ(after, 0);
-}
-
 TEST(OnErrorExitGuard, ReturnsTrueWhenNothingFails)
 {
     int statements = 0;
@@ -84,15 +73,6 @@ TEST(ResumeNextGuard, EveryStatementRunsAndFailuresAreCounted)
      ([&] { ran.push_back(5); });
     EXPECT_EQ(ran, (std::vector<int>{1, 3, 4, 5}));
     EXPECT_EQ(r.errors(), 2);
-}
-
-TEST(ResumeNextGuard, NoFailureCountsNothing)
-{
-    int n = 0;
-    ResumeNext r;
-    r([&] { ++n; })([&] { ++n; });
-    EXPECT_EQ(n, 2);
-    EXPECT_EQ(r.errors(), 0);
 }
 
 TEST(ResumeNextGuard, TestGivesTheConditionWhenItSucceeds)

@@ -169,7 +169,7 @@ TEST(TextFilesWrite, FolderInTheWayFailsAndIsLeftAlone)
 
 // --- Reading and creating --------------------------------------------------------------------
 
-TEST(TextFilesRead, MissingFileGivesNothingAndNotOk)
+TEST(TextFilesRead, AMissingFileGivesNothingAndNotOkAFileItsText)
 {
     QTemporaryDir dir;
     bool ok = true;
@@ -178,19 +178,14 @@ TEST(TextFilesRead, MissingFileGivesNothingAndNotOk)
     ok = true;
     EXPECT_EQ(TextFiles::readText(dir.filePath(QStringLiteral("none.dat")), &ok), QString());
     EXPECT_FALSE(ok);
-}
 
-TEST(TextFilesRead, ReadsWhatWasWritten)
-{
-    QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("Details.dat"));
     putFile(path, QByteArray("\"Maximised\"\r\n\xE9\r\n"));
-    bool ok = false;
     EXPECT_EQ(TextFiles::readText(path, &ok), QStringLiteral(u"\"Maximised\"\r\né\r\n"));
     EXPECT_TRUE(ok);
 }
 
-TEST(TextFilesCreate, CreatesAnEmptyFileAndItsFolders)
+TEST(TextFilesCreate, AMissingFileIsMadeEmptyWithItsFoldersAnExistingOneLeftAlone)
 {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("Options/FTP/Main.DAT"));
@@ -198,22 +193,14 @@ TEST(TextFilesCreate, CreatesAnEmptyFileAndItsFolders)
     EXPECT_TRUE(TextFiles::createIfMissing(path));
     EXPECT_TRUE(TextFiles::exists(path));
     EXPECT_EQ(fileBytes(path), QByteArray());
-}
 
-TEST(TextFilesCreate, ExistingFileIsLeftUntouched)
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("Details.dat"));
-    putFile(path, QByteArray("0\r\n1\r\n"));
-    EXPECT_TRUE(TextFiles::createIfMissing(path));
-    EXPECT_EQ(fileBytes(path), QByteArray("0\r\n1\r\n"));
-}
+    const QString existing = dir.filePath(QStringLiteral("Details.dat"));
+    putFile(existing, QByteArray("0\r\n1\r\n"));
+    EXPECT_TRUE(TextFiles::createIfMissing(existing));
+    EXPECT_EQ(fileBytes(existing), QByteArray("0\r\n1\r\n"));
 
-TEST(TextFilesCreate, FolderOfThatNameIsNotAFile)
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("Notes"));
+    // A folder of that name is not a file.
     ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("Notes")));
-    EXPECT_FALSE(TextFiles::exists(path));
-    EXPECT_FALSE(TextFiles::createIfMissing(path));
+    EXPECT_FALSE(TextFiles::exists(dir.filePath(QStringLiteral("Notes"))));
+    EXPECT_FALSE(TextFiles::createIfMissing(dir.filePath(QStringLiteral("Notes"))));
 }

@@ -7,7 +7,6 @@
 #include "platform/CodeMax.h"
 #include "platform/Forms.h"
 #include "report/frmReport.h"
-#include "shell/frmMain.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -166,10 +165,7 @@ TEST_F(ReportWindowTest, OpenLoadsAFile)
 
 TEST_F(ReportWindowTest, WebPageButtonCopiesItsText)
 {
-    auto* doc = new frmDocument;
-    frmMain::instance()->addDocument(doc);
-    doc->CodeMax1()->setText(QStringLiteral("<html> <meta name=x> </html>"));
-    processEvents();
+    frmDocument* doc = newPage(QStringLiteral("<html> <meta name=x> </html>"));
     QToolButton* button = doc->previewButton(QStringLiteral("SmartNetButton9"));
     ASSERT_NE(button, nullptr);
     EXPECT_TRUE(button->isEnabled());

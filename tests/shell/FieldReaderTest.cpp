@@ -40,98 +40,53 @@ int errorNumberOf(const std::function<void()>& f)
 
 } // namespace
 
-// --- Unquoted fields -------------------------------------------------------------------------
+// --- Fields --------------------------------------------------------------------------------
 
-TEST(FieldReader, OneFieldPerLine)
+namespace {
+struct ReadCase {
+    const char* rule;
+    QString text;
+    QStringList fields;
+};
+void expectFields(std::initializer_list<ReadCase> cases)
 {
-    EXPECT_EQ(readAll(QStringLiteral("abc\r\ndef\r\n")), (QStringList{QStringLiteral("abc"), QStringLiteral("def")}));
+    for (const ReadCase& c : cases)
+        EXPECT_EQ(readAll(c.text), c.fields) << c.rule;
+}
+} // namespace
+
+TEST(FieldReader, UnquotedFields)
+{
+    expectFields({
+        {"one field per line", "abc\r\ndef\r\n", {"abc", "def"}},
+        {"leading blanks are skipped", "   abc\r\n  \"q\"\r\n", {"abc", "q"}},
+        // The plain form writes a number with a blank before and behind it; it must read back bare.
+        {"a number in the plain form reads without its blanks", " 3470 \r\n 1 \r\n", {"3470", "1"}},
+        {"a comma splits a line", ".htm,.html,.asp\r\nnext\r\n", {".htm", ".html", ".asp", "next"}},
+        {"a comma at the line end leaves an empty field", "a,\r\nb\r\n", {"a", "", "b"}},
+        {"an empty line is an empty field", "a\r\n\r\nb\r\n", {"a", "", "b"}},
+        {"a last line without a line end is still a field", "a\r\nb", {"a", "b"}},
+        {"CR LF ends a field", "one\r\ntwo\r\nthree\r\n", {"one", "two", "three"}},
+        {"LF ends a field", "one\ntwo\nthree\n", {"one", "two", "three"}},
+        {"CR ends a field", "one\rtwo\rthree\r", {"one", "two", "three"}},
+        {"the three line ends mixed", "one\rtwo\nthree\r\n", {"one", "two", "three"}},
+        // Only a quote at the start of a field opens a quoted value.
+        {"a stray quote inside a field is kept", "ab\"cd\r\nx\r\n", {"ab\"cd", "x"}},
+        {"backslashes are ordinary characters", "\"c:\\Velloro\\\"\r\nc:\\x\\\r\n", {"c:\\Velloro\\", "c:\\x\\"}},
+    });
 }
 
-TEST(FieldReader, LeadingBlanksAreSkipped)
+TEST(FieldReader, QuotedFields)
 {
-    EXPECT_EQ(readAll(QStringLiteral("   abc\r\n  \"q\"\r\n")), (QStringList{QStringLiteral("abc"), QStringLiteral("q")}));
-}
-
-TEST(FieldReader, NumberInPlainFormReadsWithoutItsBlanks)
-{
-    // The plain form writes a number with a blank before and behind it; it must read back bare.
-    EXPECT_EQ(readAll(QStringLiteral(" 3470 \r\n 1 \r\n")), (QStringList{QStringLiteral("3470"), QStringLiteral("1")}));
-}
-
-TEST(FieldReader, CommaSplitsOneLineIntoTwoFields)
-{
-    EXPECT_EQ(readAll(QStringLiteral(".htm,.html,.asp\r\nnext\r\n")),
-              (QStringList{QStringLiteral(".htm"), QStringLiteral(".html"), QStringLiteral(".asp"), QStringLiteral("next")}));
-}
-
-TEST(FieldReader, CommaAtLineEndLeavesAnEmptyField)
-{
-    EXPECT_EQ(readAll(QStringLiteral("a,\r\nb\r\n")), (QStringList{QStringLiteral("a"), QString(), QStringLiteral("b")}));
-}
-
-TEST(FieldReader, EmptyLineIsAnEmptyField)
-{
-    EXPECT_EQ(readAll(QStringLiteral("a\r\n\r\nb\r\n")), (QStringList{QStringLiteral("a"), QString(), QStringLiteral("b")}));
-}
-
-TEST(FieldReader, LastLineWithoutLineEndIsStillAField)
-{
-    EXPECT_EQ(readAll(QStringLiteral("a\r\nb")), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
-}
-
-TEST(FieldReader, AllThreeLineEndsSeparateFields)
-{
-    const QStringList expected{QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")};
-    EXPECT_EQ(readAll(QStringLiteral("one\r\ntwo\r\nthree\r\n")), expected);
-    EXPECT_EQ(readAll(QStringLiteral("one\ntwo\nthree\n")), expected);
-    EXPECT_EQ(readAll(QStringLiteral("one\rtwo\rthree\r")), expected);
-    EXPECT_EQ(readAll(QStringLiteral("one\rtwo\nthree\r\n")), expected);
-}
-
-TEST(FieldReader, StrayQuoteInsideUnquotedFieldIsKept)
-{
-    // Only a quote at the start of a field opens a quoted value.
-    EXPECT_EQ(readAll(QStringLiteral("ab\"cd\r\nx\r\n")), (QStringList{QStringLiteral("ab\"cd"), QStringLiteral("x")}));
-}
-
-TEST(FieldReader, BackslashesAreOrdinaryCharacters)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\"c:\\Velloro\\\"\r\nc:\\x\\\r\n")),
-              (QStringList{QStringLiteral("c:\\Velloro\\"), QStringLiteral("c:\\x\\")}));
-}
-
-// --- Quoted fields ---------------------------------------------------------------------------
-
-TEST(FieldReader, QuotedFieldKeepsCommasAndBlanks)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\" .htm,.html , .asp \"\r\nx\r\n")),
-              (QStringList{QStringLiteral(" .htm,.html , .asp "), QStringLiteral("x")}));
-}
-
-TEST(FieldReader, RestOfLineAfterClosingQuoteIsDropped)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\"a\",\"b\",c\r\nd\r\n")), (QStringList{QStringLiteral("a"), QStringLiteral("d")}));
-    EXPECT_EQ(readAll(QStringLiteral("\"a\"  junk\rd\r")), (QStringList{QStringLiteral("a"), QStringLiteral("d")}));
-}
-
-TEST(FieldReader, EmptyQuotedField)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\"\"\r\n\"\"\r\n")), (QStringList{QString(), QString()}));
-}
-
-TEST(FieldReader, QuotedFieldRunsAcrossLineEndsToTheNextQuote)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\"a\r\nb\"\r\nc\r\n")), (QStringList{QStringLiteral("a\r\nb"), QStringLiteral("c")}));
-}
-
-TEST(FieldReader, UnclosedQuoteRunsToTheEndOfTheText)
-{
-    EXPECT_EQ(readAll(QStringLiteral("x\r\n\"abc\r\ndef")), (QStringList{QStringLiteral("x"), QStringLiteral("abc\r\ndef")}));
-}
-
-TEST(FieldReader, LoneQuoteIsOneEmptyField)
-{
-    EXPECT_EQ(readAll(QStringLiteral("\"")), QStringList{QString()});
+    expectFields({
+        {"commas and blanks are kept", "\" .htm,.html , .asp \"\r\nx\r\n", {" .htm,.html , .asp ", "x"}},
+        {"the rest of the line after the closing quote is dropped", "\"a\",\"b\",c\r\nd\r\n", {"a", "d"}},
+        {"the rest of the line is dropped up to a CR too", "\"a\"  junk\rd\r", {"a", "d"}},
+        {"an empty quoted field", "\"\"\r\n\"\"\r\n", {"", ""}},
+        {"a quoted field runs across line ends to the next quote", "\"a\r\nb\"\r\nc\r\n", {"a\r\nb", "c"}},
+        {"an unclosed quote runs to the end of the text", "x\r\n\"abc\r\ndef", {"x", "abc\r\ndef"}},
+        {"a lone quote is one empty field", "\"", {""}},
+    });
 }
 
 // --- End of input ----------------------------------------------------------------------------

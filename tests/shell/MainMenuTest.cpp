@@ -146,9 +146,9 @@ TEST_F(MainMenuTest, BoldInAPageGoesInBetweenLineEndsWithTheCaretBehind)
     EXPECT_EQ(doc->CodeMax1()->positionFromLineIndex(line, index), 1 + fragment.size());
 }
 
-TEST_F(MainMenuTest, EverySnippetKeyInsertsItsFragment)
+TEST_F(MainMenuTest, EverySnippetKeyInsertsItsFragmentAndTheFormGroupLeavesItSelected)
 {
-    const std::pair<const char*, const char*> expected[] = {
+    const std::pair<const char*, const char*> plain[] = {
         {"Break", "<br>"},
         {"Inline Frame", "<p><iframe name=I1>\r\n</iframe></p>"},
         {"Insert Column", "<td></td>"},
@@ -179,18 +179,8 @@ TEST_F(MainMenuTest, EverySnippetKeyInsertsItsFragment)
         {"Preformated Text", "<pre><!-- Insert Text --></pre>"},
         {"Span", "<span><!-- Insert Text --></span>"},
     };
-    frmDocument* doc = page();
-    for (const auto& [key, fragment] : expected) {
-        doc->CodeMax1()->setText(QString());
-        main->MenuClick(QString::fromUtf8(key));
-        EXPECT_EQ(doc->CodeMax1()->text(), crlf + QString::fromUtf8(fragment) + crlf) << key;
-        EXPECT_FALSE(doc->CodeMax1()->hasSelectedText()) << key;
-    }
-}
-
-TEST_F(MainMenuTest, TheFormGroupLeavesItsTextSelected)
-{
-    const std::pair<const char*, const char*> expected[] = {
+    // The form group leaves out the collapse: its text stays selected.
+    const std::pair<const char*, const char*> selected[] = {
         {"Form", "<Form>\r\n</Form>"},
         {"Radio Button", "<p><input type=radio value=V1 checked name=R1></p>"},
         {"Check Button", "<p><input type=checkbox name=C1 value=ON></p>"},
@@ -198,13 +188,17 @@ TEST_F(MainMenuTest, TheFormGroupLeavesItsTextSelected)
          "<p><input type=button value=Button name=B3><input type=submit value=Submit name=B1><input type=reset value=Reset name=B2></p>"},
     };
     frmDocument* doc = page();
-    for (const auto& [key, fragment] : expected) {
+    auto run = [&](const char* key, const char* fragment, bool staysSelected) {
         doc->CodeMax1()->setText(QString());
         main->MenuClick(QString::fromUtf8(key));
         const QString text = crlf + QString::fromUtf8(fragment) + crlf;
         EXPECT_EQ(doc->CodeMax1()->text(), text) << key;
-        EXPECT_EQ(doc->CodeMax1()->selectedText(), text) << key;
-    }
+        EXPECT_EQ(doc->CodeMax1()->selectedText(), staysSelected ? text : QString()) << key;
+    };
+    for (const auto& [key, fragment] : plain)
+        run(key, fragment, false);
+    for (const auto& [key, fragment] : selected)
+        run(key, fragment, true);
 }
 
 TEST_F(MainMenuTest, TimeAndDateRowsCarryToday)
@@ -268,15 +262,6 @@ TEST_F(MainMenuTest, RefusalsAndMessagesOfTheViewAndTextGroups)
     EXPECT_EQ(prompts.last().text,
               QStringLiteral("You need to set this option in Program Options, then reload Velloro, you will be redirected to options now."));
     EXPECT_TRUE(form<Options>()->isVisible());
-}
-
-TEST_F(MainMenuTest, SpellCheckerOutsideANotepadSaysItIsForNotepadsOnly)
-{
-    page();
-    prompts.answerMsgBox(Answer::OK);
-    main->MenuClick(QStringLiteral("Spell Checker"));
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Notepad Only ::"));
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Currently spell check does not support web pages, or there is no page open."));
 }
 
 TEST_F(MainMenuTest, EditorCommandsRunOnTheActivePage)

@@ -109,8 +109,9 @@ TEST_F(OptionsTest, PageTextsAndCaptions)
     EXPECT_EQ(options->tagc->text(), QStringLiteral("\"#0000FF\""));
 }
 
-TEST_F(OptionsTest, ApplyWritesAllFieldsQuotedAndHides)
+TEST_F(OptionsTest, ApplyReplacesTheFileWithAllFieldsQuotedAndHides)
 {
+    folder.write(QStringLiteral("Options/Details.dat"), QByteArray(100000, 'x'));
     options->show();
     options->ApplyDetails();
     EXPECT_EQ(folder.read(QStringLiteral("Options/Details.dat")), savedDesignValues);
@@ -128,13 +129,6 @@ TEST_F(OptionsTest, ApplyKeepsCommasInTheExtensionListsAndReadsThemBack)
     EXPECT_EQ(back.txtSaveEx, QStringLiteral(".htm,.shtml"));
     EXPECT_EQ(back.WEBFOLDER, QStringLiteral("/home/user/web, sites"));
     EXPECT_EQ(back.CSS, 1);
-}
-
-TEST_F(OptionsTest, ApplyReplacesTheWholeFile)
-{
-    folder.write(QStringLiteral("Options/Details.dat"), QByteArray(100000, 'x'));
-    options->ApplyDetails();
-    EXPECT_EQ(folder.read(QStringLiteral("Options/Details.dat")), savedDesignValues);
 }
 
 TEST_F(OptionsTest, ChangeCopiesFontAndSizeIntoTheChosenLevel)

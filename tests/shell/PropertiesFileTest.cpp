@@ -86,13 +86,6 @@ TEST(PropertiesPanels, OnlyTheFoldedWidthsFold)
     EXPECT_FALSE(PropertiesFile::rightFolded(QString()));
 }
 
-TEST(PropertiesPanels, SeventhLine476IsTheOpenPanel)
-{
-    const PropertiesRecord r = PropertiesFile::parse(QStringLiteral("a\r\nb\r\nc\r\nd\r\ne\r\nf\r\n 476 \r\n 141 \r\n"));
-    EXPECT_FALSE(PropertiesFile::sideFolded(r.sideWidth));
-    EXPECT_FALSE(PropertiesFile::rightFolded(r.rightWidth));
-}
-
 // --- Text ------------------------------------------------------------------------------------
 
 TEST(PropertiesText, PlainFormByteForByte)

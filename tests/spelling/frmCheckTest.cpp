@@ -442,10 +442,10 @@ TEST_F(SpellCheckTest, CommandsThatStartACheck)
     frmMain::instance()->MenuClick(QStringLiteral("Spell Checker"));
     EXPECT_EQ(prompts.last().text, QStringLiteral("Currently spell check does not support web pages, or there is no page open."));
     EXPECT_EQ(prompts.last().title, QStringLiteral(":: Notepad Only ::"));
-    auto* page = new frmDocument;
-    frmMain::instance()->addDocument(page);
+    newPage();
     prompts.answerMsgBox(Answer::OK);
     SpellCheckActiveDocument();
+    EXPECT_EQ(prompts.last().text, QStringLiteral("Currently spell check does not support web pages, or there is no page open."));
     EXPECT_EQ(prompts.last().title, QStringLiteral(":: Notepad Only ::"));
     EXPECT_EQ(prompts.pending(), 0);
 
