@@ -139,12 +139,15 @@ void CodeMax::setQuiet(bool on)
     SendScintilla(SCI_SETMODEVENTMASK, static_cast<unsigned long>(on ? beforeChangeNotices : SC_MODEVENTMASKALL));
 }
 
+long CodeMax::insertedCharacters() const
+{
+    return insertedLength == 0 ? 0
+        : SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(insertedAt), static_cast<long>(insertedAt + insertedLength));
+}
+
 void CodeMax::countInsertion()
 {
-    if (insertedLength == 0)
-        return;
-    characters += SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(insertedAt),
-                                static_cast<long>(insertedAt + insertedLength));
+    characters += insertedCharacters();
     insertedLength = 0;
 }
 
@@ -156,7 +159,8 @@ void CodeMax::changeDone()
         return;
     changePending = false;
     // QScintilla tells of new lines only after a change, which it did not hear of.
-    updateLineNumberWidth();
+    if (lines() != numberedLines)
+        updateLineNumberWidth();
     Q_EMIT Change();
 }
 
@@ -217,12 +221,7 @@ void CodeMax::setSelText(const QString& text)
 
 int CodeMax::SelLength() const { return SelText().size(); }
 
-int CodeMax::TextLength() const
-{
-    const long inserted = insertedLength == 0 ? 0
-        : SendScintilla(SCI_COUNTCHARACTERS, static_cast<unsigned long>(insertedAt), static_cast<long>(insertedAt + insertedLength));
-    return static_cast<int>(characters + inserted);
-}
+int CodeMax::TextLength() const { return static_cast<int>(characters + insertedCharacters()); }
 
 QByteArray CodeMax::utf8Text() const
 {
@@ -437,6 +436,7 @@ void CodeMax::setLineNumbering(bool on)
 
 void CodeMax::updateLineNumberWidth()
 {
+    numberedLines = lines();
     if (!lineNumbers) {
         setMarginWidth(0, 0);
         return;

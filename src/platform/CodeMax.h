@@ -104,6 +104,7 @@ private:
     void setQuiet(bool on);
     void changeDone();
     void countInsertion();
+    long insertedCharacters() const;
     void collapseSelectionRight();
     void changeCase(bool upper);
     void toggleRecording();
@@ -127,4 +128,5 @@ private:
     // notice before an insertion does not carry its text.
     long insertedAt = 0;
     long insertedLength = 0;
+    int numberedLines = 0;  // the line count the number margin was last sized for
 };

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringDecoder>
 
 namespace {
 // Windows-1252 differs from Latin-1 only in 0x80..0x9F.
@@ -97,16 +96,6 @@ qsizetype incompleteTail(const QByteArray& bytes)
 
 namespace TextFiles {
 
-QString decode(const QByteArray& bytes)
-{
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString s = utf8.decode(bytes);
-    if (!utf8.hasError())
-        return s;
-    // Mixed text: each well-formed sequence as UTF-8, each byte that is not one as Windows-1252.
-    return QString::fromUtf8(repaired(bytes));
-}
-
 QByteArray toEditorText(QByteArray bytes, QByteArray* held)
 {
     if (held) {
@@ -118,6 +107,8 @@ QByteArray toEditorText(QByteArray bytes, QByteArray* held)
         return bytes;
     return repaired(bytes);
 }
+
+QString decode(const QByteArray& bytes) { return QString::fromUtf8(toEditorText(bytes)); }
 
 QByteArray encode(const QString& text) { return text.toUtf8(); }
 
