@@ -102,6 +102,15 @@ std::string visible(const QString& s)
     return v.toStdString();
 }
 
+::testing::AssertionResult isBox(const ScriptedPrompts::Prompt& p, const QString& text, int style, const QString& title)
+{
+    if (p.text == text && (style < 0 || p.style == style) && (title.isNull() || p.title == title))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "the box is \"" << visible(p.text) << "\", style " << p.style << ", title \""
+                                         << p.title.toStdString() << "\"; expected \"" << visible(text) << "\", style "
+                                         << style << ", title \"" << title.toStdString() << "\"";
+}
+
 void saveShot(QWidget* w, const QString& name)
 {
     const QString dir = qEnvironmentVariable("VELLORO_SHOT_DIR");

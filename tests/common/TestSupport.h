@@ -46,3 +46,8 @@ void saveShot(QWidget* w, const QString& name);
 
 // Makes a string's line ends visible in failure messages.
 std::string visible(const QString& s);
+
+// Whether a prompt shows this text and, where given, this style and title:
+// EXPECT_TRUE(isBox(prompts.last(), text, 16, title)).
+::testing::AssertionResult isBox(const ScriptedPrompts::Prompt& p, const QString& text, int style = -1,
+                                 const QString& title = QString());

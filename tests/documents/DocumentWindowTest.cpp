@@ -143,9 +143,8 @@ TEST_F(DocumentTest, CloseQuestionCancelAndNo)
     doc->CodeMax1()->setText(QStringLiteral("text"));
     prompts.answerMsgBox(Answer::Cancel);
     EXPECT_FALSE(doc->Unload());
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Would you like to save the page?"));
-    EXPECT_EQ(prompts.last().style, 51);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Velloro 2002 ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Would you like to save the page?"),
+                      51, QStringLiteral(":: Velloro 2002 ::")));
     EXPECT_EQ(frmMain::instance()->ActiveForm(), doc);
 
     prompts.answerMsgBox(Answer::No);
@@ -165,9 +164,7 @@ TEST_F(DocumentTest, CloseQuestionYesSavesToTheFileAndRemovesThePreviewCopy)
     prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
     EXPECT_TRUE(doc->Unload());
     ASSERT_EQ(prompts.prompts().size(), 2);
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Page Saved as :: ") + path);
-    EXPECT_EQ(prompts.last().style, 64);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Page Saved ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Page Saved as :: ") + path, 64, QStringLiteral(":: Page Saved ::")));
     EXPECT_EQ(folder.read(QStringLiteral("page.htm")), QByteArray("<html>\r\n\xc3\xa9\r\n</html>"));
     EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("page.htm_TMP.htm"))));
 }

@@ -77,9 +77,7 @@ TEST_F(InsertionTest, WizardRefusesInANotepadAndStaysOpen)
     prompts.answerMsgBox(Answer::OK);
     wizard.Command1->click();
     ASSERT_EQ(prompts.prompts().size(), 1);
-    EXPECT_EQ(prompts.last().text, refusal);
-    EXPECT_EQ(prompts.last().style, 64);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Insert Error ::"));
+    EXPECT_TRUE(isBox(prompts.last(), refusal, 64, QStringLiteral(":: Insert Error ::")));
     EXPECT_TRUE(wizard.isVisible());
     EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("my notes"));
 }
@@ -109,7 +107,7 @@ TEST_F(InsertionTest, WizardFollowsTheActiveDocumentAtTheMomentOfTheClick)
     EXPECT_EQ(second->CodeMax1()->text(), QStringLiteral("\r\n<hr width=10>\r\n"));
 }
 
-TEST_F(InsertionTest, WithNoDocumentNothingHappensAndNothingIsSaid)
+TEST_F(InsertionTest, WithNoDocumentOrInANotepadNothingHappensAndNothingIsSaid)
 {
     LineWizard wizard;
     wizard.show();
@@ -117,10 +115,7 @@ TEST_F(InsertionTest, WithNoDocumentNothingHappensAndNothingIsSaid)
     EXPECT_TRUE(wizard.isVisible());
     boldCommand();
     EXPECT_TRUE(prompts.prompts().isEmpty());
-}
 
-TEST_F(InsertionTest, TagCommandsAreSilentInANotepad)
-{
     notepad* pad = newPad(QStringLiteral("text"));
     boldCommand();
     EXPECT_TRUE(prompts.prompts().isEmpty());
@@ -135,8 +130,8 @@ TEST_F(InsertionTest, InsertTextRedirectsInANotepad)
     newPad(QString());
     prompts.answerMsgBox(Answer::OK);
     EXPECT_TRUE(RedirectInNotepad());
-    EXPECT_EQ(prompts.last().text, QStringLiteral("You do need to open this because you can enter text directly into the Notepad"));
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Text Input ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("You do need to open this because you can enter text directly into the Notepad"),
+                      -1, QStringLiteral(":: Text Input ::")));
     newPage(QString());
     EXPECT_FALSE(RedirectInNotepad());
 }

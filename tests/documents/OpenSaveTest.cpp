@@ -35,14 +35,6 @@ namespace {
 class OpenSaveTest : public WindowTest {
 protected:
     void SetUp() override { startWithoutPage(); }
-    frmDocument* newPage(const QString& text)
-    {
-        auto* page = new frmDocument;
-        page->setCaption(QStringLiteral("Document 1"));
-        frmMain::instance()->addDocument(page);
-        page->CodeMax1()->setText(text);
-        return page;
-    }
     static DocumentWindow* active() { return frmMain::instance()->ActiveForm(); }
     const QString version = QStringLiteral("Velloro 2002 : Version 1.0.0");
 };
@@ -54,9 +46,7 @@ TEST_F(OpenSaveTest, OpenWithoutAFileSaysSo)
     open->Location->clear();
     prompts.answerMsgBox(Answer::OK);
     open->Command1->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("A file must be selected!"));
-    EXPECT_EQ(prompts.last().style, 16);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Load Error ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("A file must be selected!"), 16, QStringLiteral(":: Load Error ::")));
     EXPECT_EQ(active(), nullptr);
 }
 
@@ -142,8 +132,7 @@ TEST_F(OpenSaveTest, SaveAsWritesANewFileAndClearsTheChange)
     prompts.answerMsgBox(Answer::OK);
     save->Command1->click();
     const QString target = folder.file(QStringLiteral("index.htm"));
-    EXPECT_EQ(prompts.last().text, QStringLiteral(" Page Saved ::  ") + target);
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral(" Page Saved ::  ") + target, 64));
     EXPECT_EQ(folder.read(QStringLiteral("index.htm")), QByteArray("<p>saved</p>"));
     EXPECT_EQ(page->tempaddress()->text(), target);
     EXPECT_EQ(page->Changedvalue()->text(), QString());
@@ -160,9 +149,8 @@ TEST_F(OpenSaveTest, SaveAsOverAnExistingFileAsksAndNoKeepsEverything)
     save->Combo1->setCurrentText(QStringLiteral(".htm"));
     prompts.answerMsgBox(Answer::No);
     save->Command1->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("File allready exists, would you like to Overwrite the document?"));
-    EXPECT_EQ(prompts.last().style, 51);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Velloro 2002 ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("File allready exists, would you like to Overwrite the document?"),
+                      51, QStringLiteral(":: Velloro 2002 ::")));
     EXPECT_EQ(folder.read(QStringLiteral("index.htm")), QByteArray("old"));
     EXPECT_EQ(page->tempaddress()->text(), QString());
     EXPECT_EQ(page->Changedvalue()->text(), QStringLiteral("Changed"));
@@ -250,9 +238,8 @@ TEST_F(OpenSaveTest, MenuSaveWritesButKeepsTheChangeMark)
 {
     prompts.answerMsgBox(Answer::OK);
     MenuSave();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("There is no document open to save."));
-    EXPECT_EQ(prompts.last().style, 0);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: No Document ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("There is no document open to save."),
+                      0, QStringLiteral(":: No Document ::")));
 
     frmDocument* page = newPage(QStringLiteral("body"));
     prompts.answerMsgBox(Answer::OK);
@@ -307,8 +294,7 @@ TEST_F(OpenSaveTest, TemplateFromANotepad)
     t->Text1->clear();
     prompts.answerMsgBox(Answer::OK);
     t->Command1->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Name is required"));
-    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Name is required"), 16));
 
     t->Text1->setText(QStringLiteral("a"));
     prompts.answerMsgBox(Answer::OK);
@@ -342,8 +328,8 @@ TEST_F(OpenSaveTest, CreateTemplatesOfASavedNotepadAsksForTheOldName)
     pad->tempaddress()->setText(path);
     prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
     frmMain::instance()->MenuClick(QStringLiteral("Create Templates"));
-    EXPECT_EQ(prompts.prompts()[0].text, QStringLiteral("Would you like to save with old filename??"));
-    EXPECT_EQ(prompts.prompts()[0].title, QStringLiteral("Save check ::"));
+    EXPECT_TRUE(isBox(prompts.prompts()[0], QStringLiteral("Would you like to save with old filename??"),
+                      -1, QStringLiteral("Save check ::")));
     EXPECT_EQ(prompts.last().text, QStringLiteral("Template Saved as :: ") + path);
     EXPECT_TRUE(QFile::exists(path));
 }

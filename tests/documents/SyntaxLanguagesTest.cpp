@@ -118,41 +118,29 @@ TEST(SyntaxRecords, LongListsKeepTheirEndsDuplicatesAndMisspellings)
 
 TEST(SyntaxRecords, FieldValuesOfTheThreeLanguages)
 {
-    const LanguageRecord& php = record("PHP");
-    const LanguageRecord& js = record("JavaScript");
-    const LanguageRecord& delphi = record("Delphi");
-
-    EXPECT_FALSE(php.CaseSensitive);
-    EXPECT_TRUE(js.CaseSensitive);
-    EXPECT_FALSE(delphi.CaseSensitive);
-    for (const LanguageRecord* r : {&php, &js, &delphi}) {
-        EXPECT_EQ(r->Style, 0) << r->name.toStdString();
-        EXPECT_EQ(r->SingleLineComments, QStringLiteral("//"));
-        EXPECT_TRUE(r->ScopeKeywords1.isEmpty());
-        EXPECT_TRUE(r->ScopeKeywords2.isEmpty());
+    struct Fields { const char* language; bool caseSensitive; const char* open; const char* close; const char* delims;
+                    const char* escape; const char* terminator; };
+    // Delphi's string delimiter is the apostrophe alone, with no line feed.
+    const Fields fields[] = {{"PHP", false, "/*", "*/", "\"\n'\n", "\\", ""},
+                             {"JavaScript", true, "/*", "*/", "\"\n'\n", "\\", ";"},
+                             {"Delphi", false, "{", "}", "'", "", ""}};
+    for (const Fields& f : fields) {
+        const LanguageRecord& r = record(f.language);
+        SCOPED_TRACE(f.language);
+        EXPECT_EQ(r.CaseSensitive, f.caseSensitive);
+        EXPECT_EQ(r.Style, 0);
+        EXPECT_EQ(r.SingleLineComments, QStringLiteral("//"));
+        EXPECT_TRUE(r.ScopeKeywords1.isEmpty());
+        EXPECT_TRUE(r.ScopeKeywords2.isEmpty());
+        EXPECT_EQ(r.MultiLineComments1, QLatin1String(f.open));
+        EXPECT_EQ(r.MultiLineComments2, QLatin1String(f.close));
+        EXPECT_EQ(r.StringDelims, QLatin1String(f.delims));
+        EXPECT_EQ(r.EscapeChar, QLatin1String(f.escape));
+        EXPECT_EQ(r.TerminatorChar, QLatin1String(f.terminator));
     }
-    EXPECT_EQ(php.MultiLineComments1, QStringLiteral("/*"));
-    EXPECT_EQ(php.MultiLineComments2, QStringLiteral("*/"));
-    EXPECT_EQ(js.MultiLineComments1, QStringLiteral("/*"));
-    EXPECT_EQ(js.MultiLineComments2, QStringLiteral("*/"));
-    EXPECT_EQ(delphi.MultiLineComments1, QStringLiteral("{"));
-    EXPECT_EQ(delphi.MultiLineComments2, QStringLiteral("}"));
-
-    EXPECT_EQ(php.StringDelims, QStringLiteral("\"\n'\n"));
-    EXPECT_EQ(js.StringDelims, QStringLiteral("\"\n'\n"));
-    EXPECT_EQ(delphi.StringDelims, QStringLiteral("'")) << "the apostrophe alone, no line feed";
-
-    EXPECT_EQ(php.EscapeChar, QStringLiteral("\\"));
-    EXPECT_EQ(js.EscapeChar, QStringLiteral("\\"));
-    EXPECT_TRUE(delphi.EscapeChar.isEmpty());
-
-    EXPECT_EQ(php.TerminatorChar, QString());
-    EXPECT_EQ(js.TerminatorChar, QStringLiteral(";"));
-    EXPECT_EQ(delphi.TerminatorChar, QString());
-
-    EXPECT_TRUE(js.TagElementNames.isEmpty());
-    EXPECT_TRUE(js.TagEntities.isEmpty());
-    EXPECT_TRUE(delphi.TagElementNames.isEmpty());
+    EXPECT_TRUE(record("JavaScript").TagElementNames.isEmpty());
+    EXPECT_TRUE(record("JavaScript").TagEntities.isEmpty());
+    EXPECT_TRUE(record("Delphi").TagElementNames.isEmpty());
 }
 
 TEST(SyntaxRecords, WordListsEndWithOneLineFeedAndHoldNoEmptyEntry)
@@ -205,6 +193,15 @@ TEST(SyntaxRecords, UndefinedNameHasNoRecord)
 // ---- Colouring in the editor --------------------------------------------------------------
 
 namespace {
+using L = RecordLexer;
+
+// A piece of the text, which of its occurrences, and the style every character of it has.
+struct Styled {
+    const char* piece;
+    int style;
+    int occurrence = 0;
+};
+
 class SyntaxColouring : public ::testing::Test {
 protected:
     static void SetUpTestSuite() { record("PHP"); }
@@ -242,6 +239,11 @@ protected:
         return first;
     }
     int styleOf(const char* piece, int occurrence = 0) const { return styleOf(QString::fromLatin1(piece), occurrence); }
+    void expectStyles(std::initializer_list<Styled> list) const
+    {
+        for (const Styled& s : list)
+            EXPECT_EQ(styleOf(s.piece, s.occurrence), s.style) << visible(QString::fromLatin1(s.piece)) << " #" << s.occurrence;
+    }
 
     CodeMax editor;
 };
@@ -252,104 +254,73 @@ TEST_F(SyntaxColouring, JavaScriptKeywordsAsListedAndWithCase)
     colour("JavaScript", QStringLiteral("x.calee; x.callee; s.cherAt(1); s.charAt(1);\nArray array ARRAY atan2 @cc_on"));
     ASSERT_NE(editor.lexer(), nullptr);
     EXPECT_STREQ(editor.lexer()->language(), "JavaScript");
-    EXPECT_EQ(styleOf("calee"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("callee"), RecordLexer::Default);
-    EXPECT_EQ(styleOf("cherAt"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("charAt"), RecordLexer::Default);
-    EXPECT_EQ(styleOf("Array"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("array"), RecordLexer::Default) << "JavaScript matches with case";
-    EXPECT_EQ(styleOf("ARRAY"), RecordLexer::Default);
-    EXPECT_EQ(styleOf("atan2"), RecordLexer::Keyword) << "a word with a digit is one word";
-    EXPECT_EQ(styleOf("@cc_on"), RecordLexer::Keyword);
+    // JavaScript matches with case; a word with a digit is one word.
+    expectStyles({{"calee", L::Keyword}, {"callee", L::Default}, {"cherAt", L::Keyword}, {"charAt", L::Default},
+                  {"Array", L::Keyword}, {"array", L::Default}, {"ARRAY", L::Default}, {"atan2", L::Keyword},
+                  {"@cc_on", L::Keyword}});
 }
 
 TEST_F(SyntaxColouring, PhpAndDelphiMatchRegardlessOfCase)
 {
     colour("PHP", QStringLiteral("<?php echo ECHO Echo $this $THIS FUNCTION $thisone ?>"));
-    EXPECT_EQ(styleOf("echo"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("ECHO"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("Echo"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("$this"), RecordLexer::ElementName);
-    EXPECT_EQ(styleOf("$THIS"), RecordLexer::ElementName);
-    EXPECT_EQ(styleOf("FUNCTION"), RecordLexer::AttributeName);
-    EXPECT_EQ(styleOf("$thisone"), RecordLexer::Default) << "a longer variable is no constant";
-    EXPECT_EQ(styleOf("<?php"), RecordLexer::Entity);
-    EXPECT_EQ(styleOf("?>"), RecordLexer::Entity);
+    // A longer variable is no constant.
+    expectStyles({{"echo", L::Keyword}, {"ECHO", L::Keyword}, {"Echo", L::Keyword}, {"$this", L::ElementName},
+                  {"$THIS", L::ElementName}, {"FUNCTION", L::AttributeName}, {"$thisone", L::Default},
+                  {"<?php", L::Entity}, {"?>", L::Entity}});
 
     colour("Delphi", QStringLiteral("BEGIN s := INTTOSTR(n) + inttostr(m) + IntToStr(k); X: TBUTTON; end"));
-    EXPECT_EQ(styleOf("BEGIN"), RecordLexer::AttributeName);
-    EXPECT_EQ(styleOf("INTTOSTR"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("inttostr"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("IntToStr"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("TBUTTON"), RecordLexer::Entity);
-    EXPECT_EQ(styleOf("end"), RecordLexer::AttributeName);
+    expectStyles({{"BEGIN", L::AttributeName}, {"INTTOSTR", L::Keyword}, {"inttostr", L::Keyword},
+                  {"IntToStr", L::Keyword}, {"TBUTTON", L::Entity}, {"end", L::AttributeName}});
 }
 
 TEST_F(SyntaxColouring, OperatorsAreSymbolsOrWholeWords)
 {
     colour("JavaScript", QStringLiteral("a !== b; c >>>= 2; d ?: e"));
-    EXPECT_EQ(styleOf("!=="), RecordLexer::Operator);
-    EXPECT_EQ(styleOf(">>>="), RecordLexer::Operator);
-    EXPECT_EQ(styleOf(";"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("?:"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("2"), RecordLexer::Number);
+    expectStyles({{"!==", L::Operator}, {">>>=", L::Operator}, {";", L::Operator}, {"?:", L::Operator}, {"2", L::Number}});
 
+    // A word operator needs a whole word.
     colour("PHP", QStringLiteral("$a and $b AND android"));
-    EXPECT_EQ(styleOf("and"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("AND"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("android"), RecordLexer::Default) << "a word operator needs a whole word";
+    expectStyles({{"and", L::Operator}, {"AND", L::Operator}, {"android", L::Default}});
 
     // "div" is an operator and a reserved word: the operator list comes first.
     colour("Delphi", QStringLiteral("x := y div z; q := p mod 2;"));
-    EXPECT_EQ(styleOf("div"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("mod"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf(":", 0), RecordLexer::Operator);
+    expectStyles({{"div", L::Operator}, {"mod", L::Operator}, {":", L::Operator}});
 }
 
 TEST_F(SyntaxColouring, StringsHonourTheEscapeCharacterAndEndAtTheLine)
 {
+    // The escaped quote does not close; an open string stops at the line end.
     colour("JavaScript", QStringLiteral("s = \"a\\\"b var\" + 'c\\'d'; var\nt = \"open var\nvar"));
-    EXPECT_EQ(styleOf("\"a\\\"b var\""), RecordLexer::String) << "the escaped quote does not close";
-    EXPECT_EQ(styleOf("'c\\'d'"), RecordLexer::String);
-    EXPECT_EQ(styleOf("+"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("var", 1), RecordLexer::Keyword) << "after the strings";
-    EXPECT_EQ(styleOf("\"open var"), RecordLexer::String);
-    EXPECT_EQ(styleOf("var", 3), RecordLexer::Keyword) << "an open string stops at the line end";
+    expectStyles({{"\"a\\\"b var\"", L::String}, {"'c\\'d'", L::String}, {"+", L::Operator}, {"var", L::Keyword, 1},
+                  {"\"open var", L::String}, {"var", L::Keyword, 3}});
 
+    // An escaped escape leaves the quote closing.
     colour("PHP", QStringLiteral("$s = 'it\\'s echo'; echo \"\\\\\"; echo"));
-    EXPECT_EQ(styleOf("'it\\'s echo'"), RecordLexer::String);
-    EXPECT_EQ(styleOf("\"\\\\\""), RecordLexer::String) << "an escaped escape leaves the quote closing";
-    EXPECT_EQ(styleOf("echo", 2), RecordLexer::Keyword);
+    expectStyles({{"'it\\'s echo'", L::String}, {"\"\\\\\"", L::String}, {"echo", L::Keyword, 2}});
 }
 
 TEST_F(SyntaxColouring, DelphiStringsUseTheApostropheOnly)
 {
     colour("Delphi", QStringLiteral("s := \"begin\"; t := 'begin'; u := 'a\\' begin"));
-    EXPECT_EQ(styleAt(find(QStringLiteral("\""), 0)), RecordLexer::Default) << "a double quote opens nothing";
-    EXPECT_EQ(styleOf("begin", 0), RecordLexer::AttributeName);
-    EXPECT_EQ(styleOf("'begin'"), RecordLexer::String);
-    EXPECT_EQ(styleOf("'a\\'"), RecordLexer::String) << "no escape character: the backslash is text";
-    EXPECT_EQ(styleOf("begin", 2), RecordLexer::AttributeName);
+    EXPECT_EQ(styleAt(find(QStringLiteral("\""), 0)), L::Default) << "a double quote opens nothing";
+    // No escape character: the backslash is text.
+    expectStyles({{"begin", L::AttributeName}, {"'begin'", L::String}, {"'a\\'", L::String}, {"begin", L::AttributeName, 2}});
 }
 
 TEST_F(SyntaxColouring, CommentsToTheLineEndAndAcrossLines)
 {
     colour("JavaScript", QStringLiteral("var a; /* one\r\nvar two\r\n*/ var // var { '\r\nvar"));
-    EXPECT_EQ(styleOf("var", 0), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("/* one\r\nvar two\r\n*/"), RecordLexer::BlockComment);
-    EXPECT_EQ(styleOf("var", 2), RecordLexer::Keyword) << "after the closer";
-    EXPECT_EQ(styleOf("// var { '"), RecordLexer::LineComment);
-    EXPECT_EQ(styleOf("var", 4), RecordLexer::Keyword) << "the line comment ends with its line";
+    expectStyles({{"var", L::Keyword}, {"/* one\r\nvar two\r\n*/", L::BlockComment}, {"var", L::Keyword, 2},
+                  {"// var { '", L::LineComment}, {"var", L::Keyword, 4}});
 
+    // The first closer ends a comment; a closer without an opener is text; a brace in a line
+    // comment opens nothing.
     colour("Delphi", QStringLiteral("{ begin\nbegin // }\nbegin } begin\n// {\nbegin"));
-    EXPECT_EQ(styleOf("{ begin\nbegin // }"), RecordLexer::BlockComment) << "the first closer ends it";
-    EXPECT_EQ(styleOf("begin", 2), RecordLexer::AttributeName);
-    EXPECT_EQ(styleOf("}", 1), RecordLexer::Default) << "a closer without an opener is text";
-    EXPECT_EQ(styleOf("// {"), RecordLexer::LineComment);
-    EXPECT_EQ(styleOf("begin", 4), RecordLexer::AttributeName) << "a brace in a line comment opens nothing";
+    expectStyles({{"{ begin\nbegin // }", L::BlockComment}, {"begin", L::AttributeName, 2}, {"}", L::Default, 1},
+                  {"// {", L::LineComment}, {"begin", L::AttributeName, 4}});
 
     colour("JavaScript", QStringLiteral("'/* no comment' var"));
-    EXPECT_EQ(styleOf("var"), RecordLexer::Keyword);
+    EXPECT_EQ(styleOf("var"), L::Keyword);
 }
 
 TEST_F(SyntaxColouring, ResumesMidDocumentFromTheLineBefore)
@@ -360,18 +331,16 @@ TEST_F(SyntaxColouring, ResumesMidDocumentFromTheLineBefore)
     // Wipe the styles from line 3 on, then colour from the middle of that line only.
     editor.SendScintilla(QsciScintillaBase::SCI_STARTSTYLING, static_cast<unsigned long>(line3), 0L);
     editor.SendScintilla(QsciScintillaBase::SCI_SETSTYLING, static_cast<unsigned long>(length - line3), 0L);
-    ASSERT_EQ(styleOf("var", 2), RecordLexer::Default);
+    ASSERT_EQ(styleOf("var", 2), L::Default);
     editor.SendScintilla(QsciScintillaBase::SCI_COLOURISE, static_cast<unsigned long>(line3 + 5), -1L);
-    EXPECT_EQ(styleOf("var inside", 1), RecordLexer::BlockComment) << "the comment goes on from line 2";
-    EXPECT_EQ(styleOf("var", 3), RecordLexer::Keyword);
+    expectStyles({{"var inside", L::BlockComment, 1}, {"var", L::Keyword, 3}});
 
-    // Closing the comment earlier: the following lines lose their comment colour.
+    // Closing the comment earlier: the following lines lose their comment colour, and the old
+    // closer is two operators now.
     const long insideAt = find(QStringLiteral("var inside"), 0);
     editor.SendScintilla(QsciScintillaBase::SCI_INSERTTEXT, static_cast<unsigned long>(insideAt), "*/");
     editor.SendScintilla(QsciScintillaBase::SCI_COLOURISE, static_cast<unsigned long>(insideAt), -1L);
-    EXPECT_EQ(styleOf("var", 1), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("var", 2), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("*/", 1), RecordLexer::Operator) << "the old closer is two operators now";
+    expectStyles({{"var", L::Keyword, 1}, {"var", L::Keyword, 2}, {"*/", L::Operator, 1}});
 }
 
 TEST_F(SyntaxColouring, StylesOnlyTheRangeAskedFor)
@@ -380,42 +349,32 @@ TEST_F(SyntaxColouring, StylesOnlyTheRangeAskedFor)
     editor.setText(QStringLiteral("var a;\nvar b;\nvar c;\n"));
     const long line1 = editor.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, 1UL);
     editor.SendScintilla(QsciScintillaBase::SCI_COLOURISE, 0UL, static_cast<long>(line1));
-    EXPECT_EQ(styleOf("var", 0), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("var", 1), RecordLexer::Default) << "line 2 was not asked for";
-    EXPECT_EQ(styleOf("var", 2), RecordLexer::Default);
+    expectStyles({{"var", L::Keyword}, {"var", L::Default, 1}, {"var", L::Default, 2}});
     EXPECT_EQ(editor.SendScintilla(QsciScintillaBase::SCI_GETENDSTYLED), line1);
 }
 
 TEST_F(SyntaxColouring, EntriesWithBlanksAndOtherSigns)
 {
     colour("Delphi", QStringLiteral("Action support; Action; Date/Time routines; Date"));
-    EXPECT_EQ(styleOf("Action support"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("Action", 1), RecordLexer::Default);
-    EXPECT_EQ(styleOf("Date/Time routines"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("Date", 1), RecordLexer::Keyword);
+    expectStyles({{"Action support", L::Keyword}, {"Action", L::Default, 1}, {"Date/Time routines", L::Keyword},
+                  {"Date", L::Keyword, 1}});
 
     colour("JavaScript", QStringLiteral("<% x %> <%= y"));
-    EXPECT_EQ(styleOf("<%"), RecordLexer::AttributeName);
-    EXPECT_EQ(styleOf("%>"), RecordLexer::AttributeName);
+    expectStyles({{"<%", L::AttributeName}, {"%>", L::AttributeName}});
 
+    // "<?php" needs a word end, "<?" does not.
     colour("PHP", QStringLiteral("<?phpinfo <? x"));
-    EXPECT_EQ(styleOf("<?", 0), RecordLexer::Entity) << "\"<?php\" needs a word end, \"<?\" does not";
-    EXPECT_EQ(styleOf("phpinfo"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("<?", 1), RecordLexer::Entity);
+    expectStyles({{"<?", L::Entity}, {"phpinfo", L::Keyword}, {"<?", L::Entity, 1}});
 }
 
 TEST_F(SyntaxColouring, BasicHasItsOwnDefinition)
 {
     colour("Basic", QStringLiteral("DIM x As Integer ' If Then\nRem If Then\nRemove = vbCrLf & \"If\"\n"));
     ASSERT_NE(editor.lexer(), nullptr);
-    EXPECT_EQ(styleOf("DIM"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("Integer"), RecordLexer::Keyword);
-    EXPECT_EQ(styleOf("' If Then"), RecordLexer::LineComment);
-    EXPECT_EQ(styleOf("Rem If Then"), RecordLexer::LineComment);
-    EXPECT_EQ(styleOf("Remove"), RecordLexer::Default) << "Rem starts a comment only as a word";
-    EXPECT_EQ(styleOf("vbCrLf"), RecordLexer::ElementName);
-    EXPECT_EQ(styleOf("&"), RecordLexer::Operator);
-    EXPECT_EQ(styleOf("\"If\""), RecordLexer::String);
+    // Rem starts a comment only as a word.
+    expectStyles({{"DIM", L::Keyword}, {"Integer", L::Keyword}, {"' If Then", L::LineComment},
+                  {"Rem If Then", L::LineComment}, {"Remove", L::Default}, {"vbCrLf", L::ElementName},
+                  {"&", L::Operator}, {"\"If\"", L::String}});
 }
 
 TEST_F(SyntaxColouring, NoneAndUnknownNamesShowPlainText)
@@ -427,7 +386,7 @@ TEST_F(SyntaxColouring, NoneAndUnknownNamesShowPlainText)
             ASSERT_EQ(styleAt(i), 0) << name << " at " << i;
     }
     colour("JavaScript", QStringLiteral("var"));
-    EXPECT_EQ(styleOf("var"), RecordLexer::Keyword) << "colouring comes back";
+    EXPECT_EQ(styleOf("var"), L::Keyword) << "colouring comes back";
 }
 
 TEST_F(SyntaxColouring, StylesAreDistinctAndKeepTheEditorsFont)

@@ -44,8 +44,6 @@ public:
                     if (onData)
                         onData();
                 });
-                if (onDataConnect)
-                    onDataConnect();
             }
         });
     }
@@ -113,7 +111,6 @@ public:
     QPointer<QTcpSocket> client;
     QPointer<QTcpSocket> data;
     std::function<void()> onConnect;
-    std::function<void()> onDataConnect;
     std::function<void()> onData;
 
 private:

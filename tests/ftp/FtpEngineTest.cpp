@@ -45,6 +45,12 @@ protected:
         engine.SendFile(path, remote);
         EXPECT_FALSE(guard.timedOut);
     }
+    void retrieve(const QString& command)
+    {
+        CutWhen guard(engine, nullptr);
+        engine.Retrieve(command);
+        ASSERT_FALSE(guard.timedOut);
+    }
 
     std::unique_ptr<FtpServer> server;
     FtpEngine engine;
@@ -118,22 +124,14 @@ TEST_P(EngineAgainstServer, RetrieveWritesDownmeWithoutTruncatingAndShowsTheFold
     ASSERT_TRUE(login());
     // Retrieve sends no TYPE: the binary file needs it first, or the server may turn line ends.
     ASSERT_TRUE(engine.FtpSendCommand(QStringLiteral("TYPE I")));
-    {
-        CutWhen guard(engine, nullptr);
-        engine.Retrieve(QStringLiteral("RETR long.bin"));
-        ASSERT_FALSE(guard.timedOut);
-    }
+    ASSERT_NO_FATAL_FAILURE(retrieve(QStringLiteral("RETR long.bin")));
     ASSERT_TRUE(spinUntil([this] { return shownFolders.size() == 1; }));
     EXPECT_EQ(shownFolders[0], FtpEngine::downloadFolder());
     QFile f(FtpEngine::downloadPath());
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_TRUE(f.readAll() == longer);
     f.close();
-    {
-        CutWhen guard(engine, nullptr);
-        engine.Retrieve(QStringLiteral("RETR short.txt"));
-        ASSERT_FALSE(guard.timedOut);
-    }
+    ASSERT_NO_FATAL_FAILURE(retrieve(QStringLiteral("RETR short.txt")));
     ASSERT_TRUE(spinUntil([this] { return shownFolders.size() == 2; }));
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     const QByteArray now = f.readAll();

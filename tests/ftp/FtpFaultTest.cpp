@@ -26,6 +26,12 @@ protected:
         EXPECT_EQ(engine.activeWaits(), 0);
         FtpEngine::showFolder = nullptr;
     }
+    // Connects under a guard that cuts a login still waiting at the deadline.
+    bool connectGuarded(int deadlineMs = 10000)
+    {
+        CutWhen guard(engine, nullptr, deadlineMs);
+        return engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p"));
+    }
     void login()
     {
         fake.standardLogin();
@@ -83,8 +89,7 @@ TEST_F(EngineFaults, RepliesSplitByteByByteAreJoined)
     fake.onConnect = [this] { fake.dribble("220 Slow banner\r\n"); };
     fake.on("USER", [this](const QByteArray&) { fake.dribble("331 Slow\r\n"); });
     fake.on("PASS", [this](const QByteArray&) { fake.dribble("230 Slowly in\r\n"); });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     ASSERT_TRUE(spinUntil([this] { return rec.lines.size() == 3; }));
     EXPECT_EQ(rec.lines, (QStringList{QStringLiteral("220 Slow banner"), QStringLiteral("331 Slow"), QStringLiteral("230 Slowly in")}));
 }
@@ -93,8 +98,7 @@ TEST_F(EngineFaults, SeveralRepliesInOneArrivalAreHandledInOrder)
 {
     fake.on("USER", [this](const QByteArray&) { fake.send("220 Late banner\r\n331 Password\r\n"); });
     fake.on("PASS", [this](const QByteArray&) { fake.send("230-First\r\n230 Last\r\n"); });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     EXPECT_EQ(rec.lines, (QStringList{QStringLiteral("220 Late banner"), QStringLiteral("331 Password"),
                                       QStringLiteral("230-First"), QStringLiteral("230 Last")}));
 }
@@ -107,8 +111,7 @@ TEST_F(EngineFaults, AContinuationLineCountsAsItsCode)
         fake.send("230-Welcome\r\n");
         QTimer::singleShot(300, &fake, [this] { fake.send("230-Rules\r\n230 Done\r\n"); });
     });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     // The login ended on "230-" already, before the rest came.
     EXPECT_EQ(rec.lines.last(), QStringLiteral("230-Welcome"));
     ASSERT_TRUE(spinUntil([this] { return rec.lines.size() == 5; }));
@@ -125,8 +128,7 @@ TEST_F(EngineFaults, APlainTextLineResetsTheCode)
         fake.send("230-Welcome\r\n  no code here\r\n");
         QTimer::singleShot(300, &fake, [this] { fake.send("230 Done\r\n"); });
     });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     // The 230 of the continuation was wiped by the text line before the wait looked.
     EXPECT_EQ(rec.lines.last(), QStringLiteral("230 Done"));
     EXPECT_EQ(codes, (QList<int>{220, 331, 230, 0, 230}));
@@ -138,8 +140,7 @@ TEST_F(EngineFaults, ShortLinesSetTheCodeFromWhatTheyHave)
     QObject::connect(&engine, &FtpEngine::replyLine, [&](const QString&) { codes << engine.ReplyCode(); });
     fake.on("USER", [this](const QByteArray&) { fake.send("33\r\n3\r\n\r\n331 ok\r\n"); });
     fake.on("PASS", [this](const QByteArray&) { fake.send("230 in\r\n"); });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     EXPECT_EQ(codes, (QList<int>{33, 3, 0, 331, 230}));
 }
 
@@ -151,8 +152,7 @@ TEST_F(EngineFaults, AMegabyteLineWithoutLineEndIsHeldUntilItEnds)
         QTimer::singleShot(200, &fake, [this] { fake.send("\r\n331 ok\r\n"); });
     });
     fake.on("PASS", [this](const QByteArray&) { fake.send("230 in\r\n"); });
-    CutWhen guard(engine, nullptr, 20000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded(20000));
     ASSERT_EQ(rec.lines.size(), 3);
     EXPECT_EQ(rec.lines[0].size(), huge.size());
 }
@@ -175,8 +175,7 @@ TEST_F(EngineFaults, GarbageIsLoggedAndTheLoginGoesOn)
     fake.onConnect = [&] { fake.send(junk); };
     fake.on("USER", [this](const QByteArray&) { fake.send("331 x\r\n"); });
     fake.on("PASS", [this](const QByteArray&) { fake.send("230 in\r\n"); });
-    CutWhen guard(engine, nullptr, 10000);
-    ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(connectGuarded());
     EXPECT_EQ(rec.lines.size(), 5);
     EXPECT_EQ(rec.lines[2], QStringLiteral("220 fine"));
 }
@@ -253,8 +252,7 @@ TEST_F(EngineFaults, MalformedPassiveRepliesAreRunTimeErrorsAndNoDataConnection)
         EXPECT_EQ(fake.dataConnections, 0);
         // Log in again for the next case.
         rec.lines.clear();
-        CutWhen guard(engine, nullptr, 10000);
-        ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
+        ASSERT_TRUE(connectGuarded());
     }
 }
 

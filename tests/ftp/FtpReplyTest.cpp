@@ -32,27 +32,17 @@ TEST(FtpReplyBuffer, ByteByByteAndBareLineEnds)
 
 TEST(FtpReplyCode, LeadingDigitsOfTheFirstThreeCharacters)
 {
-    EXPECT_EQ(replyCode(QStringLiteral("230 Login successful.")), 230);
-    EXPECT_EQ(replyCode(QStringLiteral("230-Welcome")), 230);
-    EXPECT_EQ(replyCode(QStringLiteral(" This is text")), 0);
-    EXPECT_EQ(replyCode(QStringLiteral("Hello")), 0);
-    EXPECT_EQ(replyCode(QString()), 0);
-    EXPECT_EQ(replyCode(QStringLiteral("5")), 5);
-    EXPECT_EQ(replyCode(QStringLiteral("42")), 42);
-    EXPECT_EQ(replyCode(QStringLiteral("22x7")), 22);
-    EXPECT_EQ(replyCode(QStringLiteral("2275")), 227);
-    EXPECT_EQ(replyCode(QStringLiteral(" 12")), 12);
-    EXPECT_EQ(replyCode(QStringLiteral("-12")), -12);
+    for (const auto& [line, code] : {std::pair{"230 Login successful.", 230}, {"230-Welcome", 230}, {" This is text", 0},
+                                     {"Hello", 0}, {"", 0}, {"5", 5}, {"42", 42}, {"22x7", 22}, {"2275", 227}, {" 12", 12},
+                                     {"-12", -12}})
+        EXPECT_EQ(replyCode(QString::fromLatin1(line)), code) << line;
 }
 
 TEST(FtpVerbTable, VerbsAndTheirAwaitedCodes)
 {
-    EXPECT_EQ(verbOf(QStringLiteral("TYPE I")), QStringLiteral("TYPE"));
-    EXPECT_EQ(verbOf(QStringLiteral("STOR my file.htm")), QStringLiteral("STOR"));
-    EXPECT_EQ(verbOf(QStringLiteral("PASV")), QStringLiteral("PASV"));
-    EXPECT_EQ(verbOf(QStringLiteral("PWD")), QStringLiteral("PWD"));
-    EXPECT_EQ(verbOf(QStringLiteral("NOOPX")), QStringLiteral("NOOP"));
-    EXPECT_EQ(verbOf(QStringLiteral("RETR\r\nx")), QStringLiteral("RETR"));
+    for (const auto& [command, verb] : {std::pair{"TYPE I", "TYPE"}, {"STOR my file.htm", "STOR"}, {"PASV", "PASV"},
+                                        {"PWD", "PWD"}, {"NOOPX", "NOOP"}, {"RETR\r\nx", "RETR"}})
+        EXPECT_EQ(verbOf(QString::fromLatin1(command)), QString::fromLatin1(verb)) << command;
 
     const struct { const char* verb; int awaited; int second; const char* tag; } rows[] = {
         {"PASV", 227, 0, ""}, {"LIST", 226, 0, "LIST"}, {"RETR", 226, 0, "RETR"}, {"CWD", 250, 530, ""},
@@ -70,19 +60,14 @@ TEST(FtpVerbTable, VerbsAndTheirAwaitedCodes)
 
 TEST(FtpPassive, PortFromTheLastTwoNumbers)
 {
-    Passive p = parsePassive(QStringLiteral("227 Entering Passive Mode (127,0,0,1,195,80)."));
-    ASSERT_TRUE(p.ok);
-    EXPECT_EQ(p.port, 195 * 256 + 80);
     // The address is ignored, however private or odd it is.
-    p = parsePassive(QStringLiteral("227 =(10,1,2,3,0,21)"));
-    ASSERT_TRUE(p.ok);
-    EXPECT_EQ(p.port, 21);
-    p = parsePassive(QStringLiteral("227 (999,999,999,999,1,2)"));
-    ASSERT_TRUE(p.ok);
-    EXPECT_EQ(p.port, 258);
-    p = parsePassive(QStringLiteral("227 ( 1, 2, 3, 4, 4, 1 ) (5,6)"));
-    ASSERT_TRUE(p.ok);
-    EXPECT_EQ(p.port, 1025);
+    for (const auto& [line, port] : {std::pair{"227 Entering Passive Mode (127,0,0,1,195,80).", 195 * 256 + 80},
+                                     {"227 =(10,1,2,3,0,21)", 21}, {"227 (999,999,999,999,1,2)", 258},
+                                     {"227 ( 1, 2, 3, 4, 4, 1 ) (5,6)", 1025}}) {
+        const Passive p = parsePassive(QString::fromLatin1(line));
+        EXPECT_TRUE(p.ok) << line;
+        EXPECT_EQ(p.port, port) << line;
+    }
 }
 
 TEST(FtpPassive, MalformedRepliesAreRunTimeErrors)

@@ -92,6 +92,14 @@ protected:
         f.write(bytes);
         return path;
     }
+    // Fills in the account and presses Connect.
+    void connectAs(const QString& user, const QString& password)
+    {
+        upload()->ftpaddress->setText(QStringLiteral("127.0.0.1"));
+        upload()->username->setText(user);
+        upload()->password->setText(password);
+        upload()->upload->click();
+    }
     QString cell(int row, int column)
     {
         QTableWidgetItem* item = upload()->Flex->item(row, column);
@@ -141,27 +149,23 @@ TEST_F(FtpWindowTest, UploadWindowOnLoad)
     EXPECT_EQ(nodeKey(node(w->Tree, QStringLiteral("<<FTP PROFILES>>"))), QStringLiteral("root"));
     EXPECT_EQ(nodeKey(node(w->Tree, QStringLiteral("<CURRENT>"))), QStringLiteral("child1_root"));
     EXPECT_EQ(w->lblfileuploading->text(), QStringLiteral("..."));
-    EXPECT_EQ(w->upload->text(), QStringLiteral("Connect to FTP Server"));
-    EXPECT_EQ(w->Command1->text(), QStringLiteral("Disconnect from FTP Server"));
-    EXPECT_EQ(w->Command2->text(), QStringLiteral("Upload File's"));
+    ftpadvanced* a = advanced();
+    const std::pair<QPushButton*, const char*> captions[] = {
+        {w->upload, "Connect to FTP Server"}, {w->Command1, "Disconnect from FTP Server"},
+        {w->Command2, "Upload File's"}, {w->Command3, "Clear \"Files to be Uploaded\" list"},
+        {w->SmartNetButton2, "Delete 1 file from list"}, {w->Command4, "View advanced options, file download etc"},
+        {w->SmartNetButton1, "Add Profile"}, {w->Command5, "Close"}, {a->Command5, "Cut Connection"},
+        {a->Command6, "View Files"}, {a->Command7, "Send File"}, {a->inputdata1, "Retrieve"}};
+    for (const auto& [button, caption] : captions)
+        EXPECT_EQ(button->text(), QString::fromLatin1(caption));
     EXPECT_EQ(w->Command2->toolTip(), QStringLiteral("Press to start uploading files"));
-    EXPECT_EQ(w->Command3->text(), QStringLiteral("Clear \"Files to be Uploaded\" list"));
-    EXPECT_EQ(w->SmartNetButton2->text(), QStringLiteral("Delete 1 file from list"));
-    EXPECT_EQ(w->Command4->text(), QStringLiteral("View advanced options, file download etc"));
-    EXPECT_EQ(w->SmartNetButton1->text(), QStringLiteral("Add Profile"));
-    EXPECT_EQ(w->Command5->text(), QStringLiteral("Close"));
     EXPECT_FALSE(w->Command1->isEnabled());
     EXPECT_EQ(w->serverShapeColour(), 255);
     EXPECT_EQ(w->Command2->palette().color(QPalette::Button), QColor(193, 210, 238));
 
-    ftpadvanced* a = advanced();
     EXPECT_EQ(a->windowTitle(), QStringLiteral("Advanced Settings"));
     EXPECT_EQ(a->Text9->toPlainText(), QStringLiteral("RETR\n"));
     EXPECT_EQ(a->Text13->text(), QStringLiteral("c:\\"));
-    EXPECT_EQ(a->Command5->text(), QStringLiteral("Cut Connection"));
-    EXPECT_EQ(a->Command6->text(), QStringLiteral("View Files"));
-    EXPECT_EQ(a->Command7->text(), QStringLiteral("Send File"));
-    EXPECT_EQ(a->inputdata1->text(), QStringLiteral("Retrieve"));
     for (const char* caption : {"Local IP :", "Local Port :", "Remote Host IP :", "Remote Port :", "Socket Handle :",
                                 "Bytes Recieved :", "FTP connection :", "FTP Server Responses", "Files on Specified FTP://"}) {
         bool found = false;
@@ -193,8 +197,7 @@ TEST_F(FtpWindowTest, ConnectNeedsAddressUserAndPassword)
     w->username->setText(QStringLiteral("me"));
     w->upload->click();
     ASSERT_EQ(prompts.prompts().size(), 3);
-    EXPECT_EQ(prompts.prompts()[0].text, QStringLiteral("You havnt entered an FTP Address!"));
-    EXPECT_EQ(prompts.prompts()[0].style, 16);
+    EXPECT_TRUE(isBox(prompts.prompts()[0], QStringLiteral("You havnt entered an FTP Address!"), 16));
     EXPECT_EQ(prompts.prompts()[1].text, QStringLiteral("You havnt entered your username!"));
     EXPECT_EQ(prompts.prompts()[2].text, QStringLiteral("You havnt entered an your password!"));
     EXPECT_FALSE(advanced()->engine()->isConnected());
@@ -208,12 +211,10 @@ TEST_F(FtpWindowTest, ProfilesAreSavedRefusedReadAndListedInBothTrees)
 
     prompts.answerMsgBox(Answer::OK);
     u->Command1->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("You need to enter a profile name."));
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("You need to enter a profile name."), 64));
 
     saveProfile(QStringLiteral("Home"), QStringLiteral("ftp.home.net"), QStringLiteral("bob"), QStringLiteral("pw,1"));
-    EXPECT_EQ(prompts.last().text, QStringLiteral("The user : Home has been added, list will now refresh."));
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("The user : Home has been added, list will now refresh."), 64));
     EXPECT_EQ(treeTexts(u->Tree), (QStringList{"<<FTP PROFILES>>", "<CURRENT>", "Home"}));
     EXPECT_EQ(treeTexts(w->Tree), (QStringList{"<<FTP PROFILES>>", "<CURRENT>", "Home"}));
     EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Main.DAT")), QByteArray("Home\r\n"));
@@ -264,8 +265,8 @@ TEST_F(FtpWindowTest, UpdateRewritesOnlyAnExistingProfile)
     u->txtProfile->clear();
     prompts.answerMsgBox(Answer::OK);
     u->SmartNetButton2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("You have not selected a profile from the left treeview to update!."));
-    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("You have not selected a profile from the left treeview to update!."),
+                      16));
 
     u->Tree_NodeClick(node(u->Tree, QStringLiteral("One")));
     u->txtProfile->setText(QStringLiteral("Renamed"));
@@ -279,8 +280,7 @@ TEST_F(FtpWindowTest, UpdateRewritesOnlyAnExistingProfile)
     u->txtAddress->setText(QStringLiteral("new.address"));
     prompts.answerMsgBox(Answer::OK);
     u->SmartNetButton2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("The user : One has been updated."));
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("The user : One has been updated."), 64));
     EXPECT_TRUE(folder.read(QStringLiteral("Options/FTP/One.DAT")).contains("\r\nnew.address\r\n"));
     EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Main.DAT")), QByteArray("One\r\nTwo\r\n"));
 
@@ -300,15 +300,13 @@ TEST_F(FtpWindowTest, DeleteAsksThenRemovesFileNodeAndIndexLine)
 
     prompts.answerMsgBox(Answer::No);
     u->Command2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Are you sure you would like to delete the current profile?"));
-    EXPECT_EQ(prompts.last().title, velloroTitle);
-    EXPECT_EQ(prompts.last().style, 52);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Are you sure you would like to delete the current profile?"),
+                      52, velloroTitle));
     EXPECT_TRUE(QFile::exists(FtpProfiles::profilePath(QStringLiteral("One"))));
 
     prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
     u->Command2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("User Profile Deleted"));
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("User Profile Deleted"), 64));
     EXPECT_FALSE(QFile::exists(FtpProfiles::profilePath(QStringLiteral("One"))));
     EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Main.DAT")), QByteArray("Two\r\n"));
     EXPECT_EQ(treeTexts(u->Tree), (QStringList{"<<FTP PROFILES>>", "<CURRENT>", "Two"}));
@@ -317,8 +315,7 @@ TEST_F(FtpWindowTest, DeleteAsksThenRemovesFileNodeAndIndexLine)
 
     prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
     u->Command2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("No profile currently selected to delete."));
-    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("No profile currently selected to delete."), 16));
 
     u->Tree_NodeClick(node(u->Tree, QStringLiteral("Two")));
     prompts.answerMsgBox(Answer::Yes).answerMsgBox(Answer::OK);
@@ -372,8 +369,8 @@ TEST_F(FtpWindowTest, TheQueueGrowsShrinksAndClears)
     w->Flex->setCurrentCell(1, 0);
     prompts.answerMsgBox(Answer::No);
     w->SmartNetButton2->click();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Are you sure you want to remove the selected item?"));
-    EXPECT_EQ(prompts.last().title, velloroTitle);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Are you sure you want to remove the selected item?"),
+                      -1, velloroTitle));
     EXPECT_EQ(w->Flex->rowCount(), 3);
     prompts.answerMsgBox(Answer::Yes);
     w->SmartNetButton2->click();
@@ -454,11 +451,8 @@ TEST_F(FtpWindowServerTest, UploadsAQueueOfThreeFilesAndEmptiesIt)
     const QStringList names = {QStringLiteral("one.bin"), QStringLiteral("two.htm"), QStringLiteral("three.bin")};
     for (int i = 0; i < 3; ++i)
         w->addFile(names[i], localFile(names[i], bodies[i]));
-    w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
-    w->username->setText(server.user());
-    w->password->setText(server.password());
     whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 20000);  // a stuck login is cut
-    w->upload->click();
+    connectAs(server.user(), server.password());
     ASSERT_TRUE(advanced()->engine()->isConnected()) << w->Text2->toPlainText().toStdString();
     EXPECT_EQ(w->serverShapeColour(), 65280);
     EXPECT_TRUE(w->Command1->isEnabled());
@@ -475,8 +469,7 @@ TEST_F(FtpWindowServerTest, UploadsAQueueOfThreeFilesAndEmptiesIt)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         return prompts.pending() == 0;
     }()) << w->Text2->toPlainText().toStdString();
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Transfer off all files completed"));
-    EXPECT_EQ(prompts.last().style, 64);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Transfer off all files completed"), 64));
     EXPECT_EQ(w->Flex->rowCount(), 0);
     EXPECT_EQ(w->ProgressBar1->value(), 0);
     EXPECT_EQ(w->ProgressBar2->value(), 0);
@@ -504,15 +497,12 @@ TEST_F(FtpWindowServerTest, UploadsAQueueOfThreeFilesAndEmptiesIt)
 TEST_F(FtpWindowServerTest, AWrongPasswordKeepsTheHourglassUntilTheUserCuts)
 {
     ftpnormal* w = upload();
-    w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
-    w->username->setText(server.user());
-    w->password->setText(QStringLiteral("not it"));
     bool hourglass = false;
     whenTrue(w, [w] { return w->Text2->toPlainText().contains(QStringLiteral("530")); }, [&] {
         hourglass = advanced()->cursor().shape() == Qt::WaitCursor;
         advanced()->Command5->click();
     });
-    w->upload->click();
+    connectAs(server.user(), QStringLiteral("not it"));
     EXPECT_TRUE(hourglass);
     EXPECT_NE(advanced()->cursor().shape(), Qt::WaitCursor);
     EXPECT_FALSE(advanced()->engine()->isConnected());
@@ -526,11 +516,8 @@ TEST_F(FtpWindowServerTest, ClosingTheWindowFreesAWaitingLogin)
 {
     ftpnormal* w = upload();
     w->show();
-    w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
-    w->username->setText(server.user());
-    w->password->setText(QStringLiteral("not it"));
     whenTrue(w, [w] { return w->Text2->toPlainText().contains(QStringLiteral("530")); }, [w] { w->close(); });
-    w->upload->click();
+    connectAs(server.user(), QStringLiteral("not it"));
     EXPECT_FALSE(w->isVisible());
     EXPECT_FALSE(advanced()->engine()->isConnected());
     EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
@@ -543,11 +530,7 @@ TEST_F(FtpWindowServerTest, ViewFilesAndRetrieveFromTheAdvancedWindow)
     QStringList shown;
     FtpEngine::showFolder = [&](const QString& f) { shown << f; };
     QFile::remove(FtpEngine::downloadPath());
-    ftpnormal* w = upload();
-    w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
-    w->username->setText(server.user());
-    w->password->setText(server.password());
-    w->upload->click();
+    connectAs(server.user(), server.password());
     ASSERT_TRUE(advanced()->engine()->isConnected());
     ftpadvanced* a = advanced();
     EXPECT_EQ(a->Text4->text(), QStringLiteral("127.0.0.1"));
@@ -586,11 +569,7 @@ protected:
         });
         fake.on("STOR", [this](const QByteArray&) { fake.send("150 Go ahead\r\n"); });
         ftpadvanced::setPortForTesting(fake.port());
-        ftpnormal* w = upload();
-        w->ftpaddress->setText(QStringLiteral("127.0.0.1"));
-        w->username->setText(QStringLiteral("u"));
-        w->password->setText(QStringLiteral("p"));
-        w->upload->click();
+        connectAs(QStringLiteral("u"), QStringLiteral("p"));
         ASSERT_TRUE(advanced()->engine()->isConnected());
     }
     FakeServer fake;

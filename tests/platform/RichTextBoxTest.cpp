@@ -76,16 +76,12 @@ TEST_P(RichTextBoxTest, NameAndWidgetByKind)
 
 TEST_P(RichTextBoxTest, TextKeepsCrLfBetweenLines)
 {
-    const QString text = QStringLiteral("one\r\ntwo\r\n\r\nfour \u00E9\u20AC");
-    box->setText(text);
-    EXPECT_EQ(box->text(), text);
     // A no-break space and a lone form feed stay what they are.
-    box->setText(QStringLiteral("a\u00A0b\fc"));
-    EXPECT_EQ(box->text(), QStringLiteral("a\u00A0b\fc"));
-    box->setText(QStringLiteral("ends with a break\r\n"));
-    EXPECT_EQ(box->text(), QStringLiteral("ends with a break\r\n"));
-    box->setText(QString());
-    EXPECT_EQ(box->text(), QString());
+    for (const QString& text : {QStringLiteral("one\r\ntwo\r\n\r\nfour \u00E9\u20AC"), QStringLiteral("a\u00A0b\fc"),
+                                QStringLiteral("ends with a break\r\n"), QString()}) {
+        box->setText(text);
+        EXPECT_EQ(box->text(), text) << visible(text);
+    }
 }
 
 TEST_P(RichTextBoxTest, SelectionOnOneLine)
@@ -116,8 +112,6 @@ TEST_P(RichTextBoxTest, SelectionAcrossLinesUsesCrLf)
 
     box->setSelText(QStringLiteral("A\r\nB\r\nC"));
     EXPECT_EQ(box->text(), QStringLiteral("A\r\nB\r\nC"));
-    EXPECT_EQ(box->GetLineFromChar(0), 0);
-    EXPECT_EQ(box->GetLineFromChar(box->text().size()), 2);
 
     // Inserted line breaks become real lines, not characters inside one line.
     box->setText(QStringLiteral("startend"));

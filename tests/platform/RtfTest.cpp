@@ -307,17 +307,13 @@ TEST(RtfRead, FormattingWordsGroupsAndDefaults)
     EXPECT_EQ(doc->toPlainText(), QStringLiteral("abcdefghijk"));
     const QString one = QStringLiteral("One");  // \deff1 without \f
     const QRgb first = qRgb(1, 2, 3);           // a table may start with a real colour
-    expectFormat(*doc, 0, 0, {one, 12, first, false, false, false});
-    expectFormat(*doc, 0, 1, {one, 12, first, true, false, false});
-    expectFormat(*doc, 0, 2, {one, 12, first, true, true, false});
-    expectFormat(*doc, 0, 3, {one, 12, first, true, false, false});
-    expectFormat(*doc, 0, 4, {one, 12, first, false, false, false});
-    expectFormat(*doc, 0, 5, {one, 12, first, false, false, true});
-    expectFormat(*doc, 0, 6, {one, 12, first, false, false, false});
-    expectFormat(*doc, 0, 7, {one, 12, first, false, false, true});
-    expectFormat(*doc, 0, 8, {one, 12, first, false, false, false});
-    expectFormat(*doc, 0, 9, {one, 15, first, true, true, false});
-    expectFormat(*doc, 0, 10, {one, 12, first, false, false, false});
+    // Size, bold, italic and underline of a to k.
+    const struct { double points; bool bold, italic, underline; } runs[] = {
+        {12, false, false, false}, {12, true, false, false}, {12, true, true, false}, {12, true, false, false},
+        {12, false, false, false}, {12, false, false, true}, {12, false, false, false}, {12, false, false, true},
+        {12, false, false, false}, {15, true, true, false}, {12, false, false, false}};
+    for (int k = 0; k < 11; ++k)
+        expectFormat(*doc, 0, k, {one, runs[k].points, first, runs[k].bold, runs[k].italic, runs[k].underline});
 
     // The properties in force at \par make the paragraph; \pard returns to the defaults.
     ASSERT_TRUE(Rtf::read(rtf(R"({\rtf1 \qc\li300 one\par two\pard\par\qr three})"), doc.get()));

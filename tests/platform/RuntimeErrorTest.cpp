@@ -19,7 +19,7 @@ TEST(RuntimeErrorText, PlatformBoxFormat)
               QStringLiteral("Run-time error '53':\n\nFile not found"));
 }
 
-TEST(RuntimeErrorText, NumbersAndSourceAreKept)
+TEST(RuntimeErrorText, NumbersSourceAndWhatAreKept)
 {
     const RuntimeError e = RuntimeError::pastEndOfFile(QStringLiteral("Input #"));
     EXPECT_EQ(e.number, 62);
@@ -27,17 +27,12 @@ TEST(RuntimeErrorText, NumbersAndSourceAreKept)
     EXPECT_EQ(RuntimeError::noSuchMember(QStringLiteral("CodeMax1")).number, 438);
     EXPECT_TRUE(RuntimeError::noSuchMember(QStringLiteral("CodeMax1"))
                     .description.startsWith(QStringLiteral("Object doesn't support this property or method")));
-}
-
-TEST(RuntimeErrorText, WhatGivesTheSameText)
-{
-    const RuntimeError e = RuntimeError::typeMismatch();
-    EXPECT_STREQ(e.what(), "Run-time error '13':\n\nType mismatch");
+    EXPECT_STREQ(RuntimeError::typeMismatch().what(), "Run-time error '13':\n\nType mismatch");
 }
 
 // --- The trap that ends the procedure --------------------------------------------------------
 
-TEST(OnErrorExitGuard, EndsTheBodyAtTheFailingStatement)
+TEST(OnErrorExitGuard, EndsTheBodyAtTheFailingStatementOrReturnsTrue)
 {
     std::vector<int> ran;
     const bool completed = OnErrorExit([&] {
@@ -48,10 +43,8 @@ TEST(OnErrorExitGuard, EndsTheBodyAtTheFailingStatement)
     });
     EXPECT_FALSE(completed);
     EXPECT_EQ(ran, (std::vector<int>{1, 2}));
-}
 
-TEST(OnErrorExitGuard, ReturnsTrueWhenNothingFails)
-{
+    // Nothing fails: true.
     int statements = 0;
     EXPECT_TRUE(OnErrorExit([&] {
         ++statements;
@@ -75,17 +68,13 @@ TEST(ResumeNextGuard, EveryStatementRunsAndFailuresAreCounted)
     EXPECT_EQ(r.errors(), 2);
 }
 
-TEST(ResumeNextGuard, TestGivesTheConditionWhenItSucceeds)
+TEST(ResumeNextGuard, TestGivesTheConditionOrEntersTheBranchOnAFailure)
 {
     ResumeNext r;
     EXPECT_TRUE(r.test([] { return true; }));
     EXPECT_FALSE(r.test([] { return false; }));
     EXPECT_EQ(r.errors(), 0);
-}
-
-TEST(ResumeNextGuard, FailingTestEntersTheBranch)
-{
-    ResumeNext r;
+    // A failing test enters the branch.
     bool branchRan = false;
     if (r.test([]() -> bool { throw RuntimeError::typeMismatch(); }))
         branchRan = true;

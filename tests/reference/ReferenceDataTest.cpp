@@ -185,7 +185,6 @@ TEST(ReferenceTree, KeysAreUniqueAndEveryParentComesFirst)
             EXPECT_FALSE(seen.contains(n.key)) << "duplicate key " << n.key.toStdString();
             seen.insert(n.key);
         }
-        // Exactly one root.
         EXPECT_EQ(std::count_if(tree->begin(), tree->end(), [](const Node& n) { return n.parent.isEmpty(); }), 1);
     }
 }

@@ -182,9 +182,7 @@ TEST_F(PanelTest, LibraryInsertWithNothingChosenAsksForACode)
     control<QPushButton>("Command3")->click();
     ASSERT_EQ(prompts.prompts().size(), 1);
     EXPECT_EQ(prompts.last().kind, QStringLiteral("MsgBox"));
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Select a code to insert!"));
-    EXPECT_EQ(prompts.last().style, 0);
-    EXPECT_EQ(prompts.last().title, QStringLiteral("Velloro 2002"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Select a code to insert!"), 0, QStringLiteral("Velloro 2002")));
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("x"));
 }
 

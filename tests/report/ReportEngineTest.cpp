@@ -121,38 +121,28 @@ TEST(ReportRows, AllPassing)
     ASSERT_EQ(r.size(), 16);
     for (const Row& row : r)
         EXPECT_TRUE(row.passed) << s(row.caption);
-    EXPECT_EQ(r[0].caption, QStringLiteral("Passed <html> tag Completion "));
-    EXPECT_EQ(r[0].explanation, QStringLiteral("Search passed a simple test to see if both <html> and </html> tags were in the document."));
-    EXPECT_EQ(r[1].caption, QStringLiteral("Passed <body> tag Completion "));
-    EXPECT_EQ(r[1].explanation, QStringLiteral("Search passed a simple test to see if both <body> and </body> tags were in the document."));
-    EXPECT_EQ(r[2].caption, QStringLiteral("Passed <head> tag Completion "));
-    EXPECT_EQ(r[2].explanation, QStringLiteral("Search passed a simple test to see if both <head> and </head> tags were in the document."));
-    EXPECT_EQ(r[3].caption, QStringLiteral("Passed <title> tag Completion "));
-    EXPECT_EQ(r[3].explanation, QStringLiteral("Search passed a simple test to see if both <title> and </title> tags were in the document."));
-    EXPECT_EQ(r[4].caption, QStringLiteral("Passed <p> tag Completion"));
-    EXPECT_EQ(r[4].explanation, QStringLiteral("The search has found correct number of start and finishes for <p> (Paragraph). There are 1 start's and 1 ends."));
-    EXPECT_EQ(r[5].caption, QStringLiteral("Passed <b> tag Completion"));
-    EXPECT_EQ(r[5].explanation, QStringLiteral("The search has found correct number of start and finishes for <i>. There are 1 start and 1 ends."));
-    EXPECT_EQ(r[6].caption, QStringLiteral("Passed <i> tag Completion"));
-    EXPECT_EQ(r[6].explanation, QStringLiteral("The search has found correct number of start and finishes for <i>. There are 0 start and 0 ends."));
-    EXPECT_EQ(r[7].caption, QStringLiteral("Passed <u> tag Completion"));
-    EXPECT_EQ(r[7].explanation, QStringLiteral("The search has found correct number of start and finishes for <u>. There are 0 starte and 0 ends."));
-    EXPECT_EQ(r[8].caption, QStringLiteral("Passed <a> tag Completion"));
-    EXPECT_EQ(r[8].explanation, QStringLiteral("The search has found correct number of start and finishes for links. There are 1 starte and 1 ends."));
-    EXPECT_EQ(r[9].caption, QStringLiteral("Found 2 Images "));
-    EXPECT_EQ(r[9].explanation, QStringLiteral("The Search has foune 2 images in the document."));
-    EXPECT_EQ(r[10].caption, QStringLiteral("Found 1 Tables."));
-    EXPECT_EQ(r[10].explanation, QStringLiteral("The Search has found 1 tables in the document."));
-    EXPECT_EQ(r[11].caption, QStringLiteral("Found 1 Table Rows."));
-    EXPECT_EQ(r[11].explanation, QStringLiteral("The Search has found 1 Rows within tables in the document."));
-    EXPECT_EQ(r[12].caption, QStringLiteral("Found 2 Table Cells."));
-    EXPECT_EQ(r[12].explanation, QStringLiteral("The Search has found 2 Cells within tables in the document. The start and finish tags are correct."));
-    EXPECT_EQ(r[13].caption, QStringLiteral("Found 1 external links."));
-    EXPECT_EQ(r[13].explanation, QStringLiteral("The search has found 1 external links, which start with <link . This may be pointing towards css or js pages."));
-    EXPECT_EQ(r[14].caption, QStringLiteral("Found 1 META tag groups."));
-    EXPECT_EQ(r[14].explanation, QStringLiteral("The search has found 1 META tag groups, these are defined at the top of the html code and display details of the HTML Page, More data in next Beta"));
-    EXPECT_EQ(r[15].caption, QStringLiteral("Check Completed Succesfully"));
-    EXPECT_EQ(r[15].explanation, QStringLiteral("Check Completed Succesfully"));
+    const std::pair<QString, QString> rows[] = {
+        {QStringLiteral("Passed <html> tag Completion "), QStringLiteral("Search passed a simple test to see if both <html> and </html> tags were in the document.")},
+        {QStringLiteral("Passed <body> tag Completion "), QStringLiteral("Search passed a simple test to see if both <body> and </body> tags were in the document.")},
+        {QStringLiteral("Passed <head> tag Completion "), QStringLiteral("Search passed a simple test to see if both <head> and </head> tags were in the document.")},
+        {QStringLiteral("Passed <title> tag Completion "), QStringLiteral("Search passed a simple test to see if both <title> and </title> tags were in the document.")},
+        {QStringLiteral("Passed <p> tag Completion"), QStringLiteral("The search has found correct number of start and finishes for <p> (Paragraph). There are 1 start's and 1 ends.")},
+        {QStringLiteral("Passed <b> tag Completion"), QStringLiteral("The search has found correct number of start and finishes for <i>. There are 1 start and 1 ends.")},
+        {QStringLiteral("Passed <i> tag Completion"), QStringLiteral("The search has found correct number of start and finishes for <i>. There are 0 start and 0 ends.")},
+        {QStringLiteral("Passed <u> tag Completion"), QStringLiteral("The search has found correct number of start and finishes for <u>. There are 0 starte and 0 ends.")},
+        {QStringLiteral("Passed <a> tag Completion"), QStringLiteral("The search has found correct number of start and finishes for links. There are 1 starte and 1 ends.")},
+        {QStringLiteral("Found 2 Images "), QStringLiteral("The Search has foune 2 images in the document.")},
+        {QStringLiteral("Found 1 Tables."), QStringLiteral("The Search has found 1 tables in the document.")},
+        {QStringLiteral("Found 1 Table Rows."), QStringLiteral("The Search has found 1 Rows within tables in the document.")},
+        {QStringLiteral("Found 2 Table Cells."), QStringLiteral("The Search has found 2 Cells within tables in the document. The start and finish tags are correct.")},
+        {QStringLiteral("Found 1 external links."), QStringLiteral("The search has found 1 external links, which start with <link . This may be pointing towards css or js pages.")},
+        {QStringLiteral("Found 1 META tag groups."), QStringLiteral("The search has found 1 META tag groups, these are defined at the top of the html code and display details of the HTML Page, More data in next Beta")},
+        {QStringLiteral("Check Completed Succesfully"), QStringLiteral("Check Completed Succesfully")},
+    };
+    for (qsizetype i = 0; i < qsizetype(std::size(rows)); ++i) {
+        EXPECT_EQ(r[i].caption, rows[i].first) << i;
+        EXPECT_EQ(r[i].explanation, rows[i].second) << i;
+    }
 }
 
 TEST(ReportRows, AllFailing)
@@ -164,36 +154,27 @@ TEST(ReportRows, AllFailing)
     for (int i = 0; i < 15; ++i)
         EXPECT_FALSE(r[i].passed) << i;
     EXPECT_TRUE(r[15].passed);
-    EXPECT_EQ(r[0].caption, QStringLiteral("Failed <html> tag Completion "));
-    EXPECT_EQ(r[0].explanation, QStringLiteral("The search has failed to find either <html> or </html> tags, this can lead to untidy code."));
-    EXPECT_EQ(r[1].caption, QStringLiteral("Failed </body> tag Completion "));
-    EXPECT_EQ(r[1].explanation, QStringLiteral("The search has failed to find either <body> or </body> tags, this can lead to untidy code."));
-    EXPECT_EQ(r[2].caption, QStringLiteral("Failed <head> tag Completion "));
-    EXPECT_EQ(r[2].explanation, QStringLiteral("The search has failed to find either <head> or </head> tags, this can lead to untidy code."));
-    EXPECT_EQ(r[3].caption, QStringLiteral("Failed <title> tag Completion "));
-    EXPECT_EQ(r[3].explanation, QStringLiteral("The search has failed to find either <title> or </title> tags, this may be beacuse you no space after the >and<, this can lead to untidy code."));
-    EXPECT_EQ(r[4].caption, QStringLiteral("Failed <p> tag Completion"));
-    EXPECT_EQ(r[4].explanation, QStringLiteral("The search has failed to correctly find the same amount of (<p> + <p) tags and </p> tags. The number should be the same, but you have 2 (<p> + <p)  and 1 </p> ends, check through the code and make sure you have the same amount."));
-    EXPECT_EQ(r[5].caption, QStringLiteral("Failed <b> tag Completion"));
-    EXPECT_EQ(r[5].explanation, failedPair.arg("<b>", "</b>", "2", "1"));
-    EXPECT_EQ(r[6].caption, QStringLiteral("Failed <i> tag Completion"));
-    EXPECT_EQ(r[6].explanation, failedPair.arg("<i>", "</i>", "1", "0"));
-    EXPECT_EQ(r[7].caption, QStringLiteral("Failed <u> tag Completion"));
-    EXPECT_EQ(r[7].explanation, failedPair.arg("<u>", "</u>", "1", "0"));
-    EXPECT_EQ(r[8].caption, QStringLiteral("Failed <a> tag Completion"));
-    EXPECT_EQ(r[8].explanation, failedPair.arg("<a", "</a>", "3", "1"));
-    EXPECT_EQ(r[9].caption, QStringLiteral("No images where found"));
-    EXPECT_EQ(r[9].explanation, QStringLiteral("No images where found in the doucment search."));
-    EXPECT_EQ(r[10].caption, QStringLiteral("Failed <table> tag completion"));
-    EXPECT_EQ(r[10].explanation, failedPair.arg("<table>", "</table>", "1", "2"));
-    EXPECT_EQ(r[11].caption, QStringLiteral("Failed <tr> tag completion"));
-    EXPECT_EQ(r[11].explanation, failedPair.arg("<tr>", "</tr>", "1", "0"));
-    EXPECT_EQ(r[12].caption, QStringLiteral("Failed <td> tag completion"));
-    EXPECT_EQ(r[12].explanation, QStringLiteral("The search has failed to correctly find the same amount of <td> tags and </td> tags. The number should be the same, but you have 3 <td> or <td and 0 </td> ends, check through the code and make sure you have the same amount. If you dont have the same amount the html code will be untidy"));
-    EXPECT_EQ(r[13].caption, QStringLiteral("No External Links Found"));
-    EXPECT_EQ(r[13].explanation, QStringLiteral("The Search has found no external links, the kind that point to css or js files, this is different to hyperlinks."));
-    EXPECT_EQ(r[14].caption, QStringLiteral("No META tag group's Found"));
-    EXPECT_EQ(r[14].explanation, QStringLiteral("The Search has found no META tag groupd like the author, or keywords. Adding these tags recieves better recognition in search engines"));
+    const std::pair<QString, QString> rows[] = {
+        {QStringLiteral("Failed <html> tag Completion "), QStringLiteral("The search has failed to find either <html> or </html> tags, this can lead to untidy code.")},
+        {QStringLiteral("Failed </body> tag Completion "), QStringLiteral("The search has failed to find either <body> or </body> tags, this can lead to untidy code.")},
+        {QStringLiteral("Failed <head> tag Completion "), QStringLiteral("The search has failed to find either <head> or </head> tags, this can lead to untidy code.")},
+        {QStringLiteral("Failed <title> tag Completion "), QStringLiteral("The search has failed to find either <title> or </title> tags, this may be beacuse you no space after the >and<, this can lead to untidy code.")},
+        {QStringLiteral("Failed <p> tag Completion"), QStringLiteral("The search has failed to correctly find the same amount of (<p> + <p) tags and </p> tags. The number should be the same, but you have 2 (<p> + <p)  and 1 </p> ends, check through the code and make sure you have the same amount.")},
+        {QStringLiteral("Failed <b> tag Completion"), failedPair.arg("<b>", "</b>", "2", "1")},
+        {QStringLiteral("Failed <i> tag Completion"), failedPair.arg("<i>", "</i>", "1", "0")},
+        {QStringLiteral("Failed <u> tag Completion"), failedPair.arg("<u>", "</u>", "1", "0")},
+        {QStringLiteral("Failed <a> tag Completion"), failedPair.arg("<a", "</a>", "3", "1")},
+        {QStringLiteral("No images where found"), QStringLiteral("No images where found in the doucment search.")},
+        {QStringLiteral("Failed <table> tag completion"), failedPair.arg("<table>", "</table>", "1", "2")},
+        {QStringLiteral("Failed <tr> tag completion"), failedPair.arg("<tr>", "</tr>", "1", "0")},
+        {QStringLiteral("Failed <td> tag completion"), QStringLiteral("The search has failed to correctly find the same amount of <td> tags and </td> tags. The number should be the same, but you have 3 <td> or <td and 0 </td> ends, check through the code and make sure you have the same amount. If you dont have the same amount the html code will be untidy")},
+        {QStringLiteral("No External Links Found"), QStringLiteral("The Search has found no external links, the kind that point to css or js files, this is different to hyperlinks.")},
+        {QStringLiteral("No META tag group's Found"), QStringLiteral("The Search has found no META tag groupd like the author, or keywords. Adding these tags recieves better recognition in search engines")},
+    };
+    for (qsizetype i = 0; i < qsizetype(std::size(rows)); ++i) {
+        EXPECT_EQ(r[i].caption, rows[i].first) << i;
+        EXPECT_EQ(r[i].explanation, rows[i].second) << i;
+    }
 }
 
 TEST(ReportRows, ExamplesOfTheCrudeModel)

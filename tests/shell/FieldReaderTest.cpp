@@ -38,6 +38,21 @@ int errorNumberOf(const std::function<void()>& f)
     return 0;
 }
 
+// The run-time error a conversion of each text raises: its number and its description.
+void expectError(std::initializer_list<const char*> texts, const std::function<void(const QString&)>& convert,
+                 int number, const char* description)
+{
+    for (const char* s : texts) {
+        try {
+            convert(QString::fromLatin1(s));
+            ADD_FAILURE() << "no error for " << s;
+        } catch (const RuntimeError& e) {
+            EXPECT_EQ(e.number, number) << s;
+            EXPECT_EQ(e.description, QString::fromLatin1(description)) << s;
+        }
+    }
+}
+
 } // namespace
 
 // --- Fields --------------------------------------------------------------------------------
@@ -135,12 +150,9 @@ TEST(FieldReader, HugeSingleLine)
 
 TEST(FieldReaderConversion, LongTakesDigitsAndTheTypeSuffix)
 {
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral("255&")), 255);
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral("16711680")), 16711680);
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral(" 65280 ")), 65280);
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral("-1")), -1);
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral("2147483647")), 2147483647);
-    EXPECT_EQ(FieldReader::toLong(QStringLiteral("-2147483648")), -2147483647 - 1);
+    for (const auto& [text, value] : {std::pair{"255&", 255}, {"16711680", 16711680}, {" 65280 ", 65280}, {"-1", -1},
+                                      {"2147483647", 2147483647}, {"-2147483648", -2147483647 - 1}})
+        EXPECT_EQ(FieldReader::toLong(QString::fromLatin1(text)), value) << text;
 }
 
 TEST(FieldReaderConversion, EmptyFieldIsZero)
@@ -152,30 +164,14 @@ TEST(FieldReaderConversion, EmptyFieldIsZero)
 
 TEST(FieldReaderConversion, WordsAreTypeMismatch)
 {
-    for (const char* s : {"abc", ".asp", "#FF0000", "12abc", "&", "1 2", "nan", "inf"}) {
-        SCOPED_TRACE(s);
-        try {
-            FieldReader::toLong(QString::fromLatin1(s));
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& e) {
-            EXPECT_EQ(e.number, 13);
-            EXPECT_EQ(e.description, QStringLiteral("Type mismatch"));
-        }
-    }
+    expectError({"abc", ".asp", "#FF0000", "12abc", "&", "1 2", "nan", "inf"}, [](const QString& s) { FieldReader::toLong(s); },
+                13, "Type mismatch");
 }
 
 TEST(FieldReaderConversion, OutOfRangeIsOverflow)
 {
-    for (const char* s : {"2147483648", "-2147483649", "99999999999999999999", "1e12"}) {
-        SCOPED_TRACE(s);
-        try {
-            FieldReader::toLong(QString::fromLatin1(s));
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& e) {
-            EXPECT_EQ(e.number, 6);
-            EXPECT_EQ(e.description, QStringLiteral("Overflow"));
-        }
-    }
+    expectError({"2147483648", "-2147483649", "99999999999999999999", "1e12"}, [](const QString& s) { FieldReader::toLong(s); },
+                6, "Overflow");
     EXPECT_EQ(errorNumberOf([] { FieldReader::toInteger(QStringLiteral("32768")); }), 6);
     EXPECT_EQ(errorNumberOf([] { FieldReader::toInteger(QStringLiteral("-32769")); }), 6);
     EXPECT_EQ(FieldReader::toInteger(QStringLiteral("32767")), 32767);
@@ -184,20 +180,9 @@ TEST(FieldReaderConversion, OutOfRangeIsOverflow)
 
 TEST(FieldReaderConversion, CheckValueIsZeroToTwo)
 {
-    EXPECT_EQ(FieldReader::toCheckValue(QStringLiteral("0")), 0);
-    EXPECT_EQ(FieldReader::toCheckValue(QStringLiteral("1")), 1);
-    EXPECT_EQ(FieldReader::toCheckValue(QStringLiteral(" 1 ")), 1);
-    EXPECT_EQ(FieldReader::toCheckValue(QStringLiteral("2")), 2);
-    for (const char* s : {"3", "-1", "255"}) {
-        SCOPED_TRACE(s);
-        try {
-            FieldReader::toCheckValue(QString::fromLatin1(s));
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& e) {
-            EXPECT_EQ(e.number, 380);
-            EXPECT_EQ(e.description, QStringLiteral("Invalid property value"));
-        }
-    }
+    for (const auto& [text, value] : {std::pair{"0", 0}, {"1", 1}, {" 1 ", 1}, {"2", 2}})
+        EXPECT_EQ(FieldReader::toCheckValue(QString::fromLatin1(text)), value) << text;
+    expectError({"3", "-1", "255"}, [](const QString& s) { FieldReader::toCheckValue(s); }, 380, "Invalid property value");
     EXPECT_EQ(errorNumberOf([] { FieldReader::toCheckValue(QStringLiteral(".asp")); }), 13);
 }
 

@@ -65,16 +65,13 @@ TEST(MenuTable, TopLevelAndGroupsInOrder)
 
 TEST(MenuTable, CaptionsShortcutsAndDisabledItems)
 {
-    EXPECT_EQ(menuEntry(QStringLiteral("keyFile"))->caption, QStringLiteral("&File"));
-    EXPECT_EQ(menuEntry(QStringLiteral("Site Managment"))->caption, QStringLiteral("Site Managment Solution"));
-    EXPECT_EQ(menuEntry(QStringLiteral("Create External Stlye Sheet"))->caption, QStringLiteral("Create External Stlye Sheet"));
-    EXPECT_EQ(menuEntry(QStringLiteral("Check Version"))->caption, QStringLiteral("Update Velloro ..."));
-    EXPECT_EQ(menuEntry(QStringLiteral("Find Files"))->caption, QStringLiteral("Find Files....."));
-    EXPECT_EQ(menuEntry(QStringLiteral("keyNew"))->shortcut, 79);
-    EXPECT_EQ(menuEntry(QStringLiteral("Save As"))->shortcut, 83);
-    EXPECT_EQ(menuEntry(QStringLiteral("Properties"))->shortcut, 113);
-    EXPECT_EQ(menuEntry(QStringLiteral("Quick Note"))->shortcut, 112);
-    EXPECT_EQ(menuEntry(QStringLiteral("Marquee"))->shortcut, 77);
+    for (const auto& [key, caption] : {std::pair{"keyFile", "&File"}, {"Site Managment", "Site Managment Solution"},
+                                       {"Create External Stlye Sheet", "Create External Stlye Sheet"},
+                                       {"Check Version", "Update Velloro ..."}, {"Find Files", "Find Files....."}})
+        EXPECT_EQ(menuEntry(QString::fromLatin1(key))->caption, QString::fromLatin1(caption)) << key;
+    for (const auto& [key, shortcut] : {std::pair{"keyNew", 79}, {"Save As", 83}, {"Properties", 113}, {"Quick Note", 112},
+                                        {"Marquee", 77}})
+        EXPECT_EQ(menuEntry(QString::fromLatin1(key))->shortcut, shortcut) << key;
     QStringList disabled;
     for (const MenuEntry& e : menuTable())
         if (!e.enabled)
@@ -443,14 +440,12 @@ TEST_F(MainMenuTest, ButtonBarsRepeatTheMenuAndAddTheirOwnRefusals)
     EXPECT_EQ(n->RichTextBox1()->SelIndent(), 0);
 
     frmDocument* doc = page();
-    button(18)->click();
-    EXPECT_EQ(doc->CodeMax1()->text(), QStringLiteral("\r\n<p><font color=Black size=3>\r\n<ol>\r\n<li> ENTER TEXT HERE </li>\r\n</ol></font></p>\r\n"));
-    doc->CodeMax1()->setText(QString());
-    button(20)->click();
-    EXPECT_EQ(doc->CodeMax1()->text(), QStringLiteral("\r\n<blockquote>\r\n"));
-    doc->CodeMax1()->setText(QString());
-    button(8)->click();
-    EXPECT_EQ(doc->CodeMax1()->text(), QStringLiteral("\r\n<b><!-- Insert Text --></b>\r\n"));
+    for (const auto& [n, fragment] : {std::pair{18, "\r\n<p><font color=Black size=3>\r\n<ol>\r\n<li> ENTER TEXT HERE </li>\r\n</ol></font></p>\r\n"},
+                                      {20, "\r\n<blockquote>\r\n"}, {8, "\r\n<b><!-- Insert Text --></b>\r\n"}}) {
+        doc->CodeMax1()->setText(QString());
+        button(n)->click();
+        EXPECT_EQ(doc->CodeMax1()->text(), QString::fromLatin1(fragment)) << n;
+    }
 }
 
 TEST_F(MainMenuTest, SizeAndFontToolsWriteATagOrSetTheNotepadFont)

@@ -16,11 +16,9 @@
 namespace {
 TEST(FilePanel, SizeColumnCountsBytesUpTo1000ThenWholeKilobytes)
 {
-    EXPECT_EQ(fileSizeText(0), QStringLiteral("0 byte's"));
-    EXPECT_EQ(fileSizeText(1000), QStringLiteral("1000 byte's"));
-    EXPECT_EQ(fileSizeText(1001), QStringLiteral("1 kB's"));
-    EXPECT_EQ(fileSizeText(2500), QStringLiteral("2 kB's"));
-    EXPECT_EQ(fileSizeText(1999999), QStringLiteral("1999 kB's"));
+    for (const auto& [bytes, text] : {std::pair{0, "0 byte's"}, {1000, "1000 byte's"}, {1001, "1 kB's"}, {2500, "2 kB's"},
+                                      {1999999, "1999 kB's"}})
+        EXPECT_EQ(fileSizeText(bytes), QString::fromLatin1(text));
 }
 
 TEST(FilePanel, PatternIsTheTextBetweenTheBrackets)

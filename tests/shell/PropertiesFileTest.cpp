@@ -73,17 +73,11 @@ TEST(PropertiesParse, MissingFieldsStayEmptyWithoutAnError)
 TEST(PropertiesPanels, OnlyTheFoldedWidthsFold)
 {
     EXPECT_TRUE(PropertiesFile::sideFolded(QStringLiteral("475")));
-    EXPECT_FALSE(PropertiesFile::sideFolded(QStringLiteral("476")));
-    EXPECT_FALSE(PropertiesFile::sideFolded(QStringLiteral("3470")));
-    EXPECT_FALSE(PropertiesFile::sideFolded(QStringLiteral("140")));
-    EXPECT_FALSE(PropertiesFile::sideFolded(QString()));
-    EXPECT_FALSE(PropertiesFile::sideFolded(QStringLiteral("abc")));
-
+    for (const char* width : {"476", "3470", "140", "", "abc"})
+        EXPECT_FALSE(PropertiesFile::sideFolded(QString::fromLatin1(width))) << width;
     EXPECT_TRUE(PropertiesFile::rightFolded(QStringLiteral("140")));
-    EXPECT_FALSE(PropertiesFile::rightFolded(QStringLiteral("141")));
-    EXPECT_FALSE(PropertiesFile::rightFolded(QStringLiteral("720")));
-    EXPECT_FALSE(PropertiesFile::rightFolded(QStringLiteral("475")));
-    EXPECT_FALSE(PropertiesFile::rightFolded(QString()));
+    for (const char* width : {"141", "720", "475", ""})
+        EXPECT_FALSE(PropertiesFile::rightFolded(QString::fromLatin1(width))) << width;
 }
 
 // --- Text ------------------------------------------------------------------------------------

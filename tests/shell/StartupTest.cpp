@@ -55,7 +55,7 @@ protected:
 };
 }
 
-TEST_F(StartupTest, ShippedSettingsGiveTheMaximisedStartupPage)
+TEST_F(StartupTest, ShippedSettingsGiveTheMaximisedStartupPageAndTheFormsInOrder)
 {
     Main();
     frmMain* main = frmMain::loaded();
@@ -86,11 +86,8 @@ TEST_F(StartupTest, ShippedSettingsGiveTheMaximisedStartupPage)
     EXPECT_TRUE(startup->windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_FALSE(main->Tooltipframe->isHidden());
     EXPECT_TRUE(prompts.prompts().isEmpty());
-}
 
-TEST_F(StartupTest, FormsLoadInTheOrderOfFirstReference)
-{
-    Main();
+    // The forms load in the order of their first reference.
     const QStringList wanted = {QStringLiteral("frmMain"), QStringLiteral("Options"), QStringLiteral("Startup"),
                                 QStringLiteral("AboutFORM")};
     QStringList names;
@@ -105,9 +102,7 @@ TEST_F(FirstStartTest, MissingSettingsAreResetAndTheProgramEnds)
     prompts.answerMsgBox(Answer::OK);
     Main();
     ASSERT_EQ(prompts.prompts().size(), 1);
-    EXPECT_EQ(prompts.last().text, resetMessage);
-    EXPECT_EQ(prompts.last().style, 16);
-    EXPECT_EQ(prompts.last().title, QStringLiteral("Velloro 2002"));
+    EXPECT_TRUE(isBox(prompts.last(), resetMessage, 16, QStringLiteral("Velloro 2002")));
     EXPECT_EQ(folder.read(QStringLiteral("Options/Details.dat")), resetFile);
     EXPECT_EQ(frmMain::loaded(), nullptr);
     EXPECT_EQ(Forms::count(), 0) << "every form is unloaded";
@@ -201,9 +196,8 @@ TEST_F(StartupTest, ShutDownAsksEachChangedPageAndStopsOnCancel)
 
     prompts.answerMsgBox(Answer::Cancel);
     EXPECT_FALSE(CloseAllWindows());
-    EXPECT_EQ(prompts.last().text, QStringLiteral("Would you like to save the page?"));
-    EXPECT_EQ(prompts.last().style, 51);
-    EXPECT_EQ(prompts.last().title, QStringLiteral(":: Velloro 2002 ::"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Would you like to save the page?"),
+                      51, QStringLiteral(":: Velloro 2002 ::")));
     EXPECT_NE(frmMain::loaded(), nullptr);
     EXPECT_EQ(main->documents().size(), 1) << "Cancel keeps the page and the program";
 

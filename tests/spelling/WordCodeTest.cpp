@@ -15,37 +15,19 @@ QStringList bucket(const clsWordTree& tree, const QString& code)
 }
 }
 
-TEST(WordCode, ExamplesAndRepeats)
+TEST(WordCode, ExamplesRepeatsAndTheFourthCharacter)
 {
-    EXPECT_EQ(code("Robert"), QStringLiteral("R163"));
-    EXPECT_EQ(code("robert"), QStringLiteral("R163"));
-    EXPECT_EQ(code("Hello"), QStringLiteral("H400"));
-    EXPECT_EQ(code("a"), QStringLiteral("A000"));
-    EXPECT_EQ(code(""), QStringLiteral("000 "));
-    // C, K and S each write a 2: only the same letter twice in a row is a repeat.
-    EXPECT_EQ(code("Jackson"), QStringLiteral("J222"));
-    EXPECT_EQ(code("Anna"), QStringLiteral("A500"));
-    EXPECT_EQ(code("Anan"), QStringLiteral("A550"));
-    EXPECT_EQ(code("Bell"), QStringLiteral("B400"));
-    EXPECT_EQ(code("BELL"), QStringLiteral("B400"));
-    EXPECT_EQ(code("Bel'l"), QStringLiteral("B440")) << "the apostrophe ends the repeat";
-    EXPECT_EQ(code("o'clock"), QStringLiteral("O242"));
-    // The first letter is the previous letter at the start: "Pf" repeats nothing, "Pp" does.
-    EXPECT_EQ(code("Ppb"), QStringLiteral("P100"));
-    EXPECT_EQ(code("Pfb"), QStringLiteral("P110"));
-}
-
-TEST(WordCode, StopsAtTheFourthCharacterAndCodesOnlyTheLetterSets)
-{
-    EXPECT_EQ(code("Washington"), QStringLiteral("W252"));
-    EXPECT_EQ(code("Tymczak"), QStringLiteral("T522"));
-    EXPECT_EQ(code("bfpv"), QStringLiteral("B111"));
-    EXPECT_EQ(code("xlmnr"), QStringLiteral("X455"));
-    EXPECT_EQ(code("3d"), QStringLiteral("3300"));
-    EXPECT_EQ(code("a-e-i"), QStringLiteral("A000"));
-    EXPECT_EQ(code("caf\xc3\xa9s"), QStringLiteral("C120")) << "an accented letter writes nothing";
-    EXPECT_EQ(code("\xc3\xa9t\xc3\xa9"), QString::fromUtf8("\xc3\x89" "300")) << "the first letter upper-cased";
-    EXPECT_EQ(code("\nnext"), QStringLiteral("\n523"));
+    // C, K and S each write a 2: only the same letter twice in a row is a repeat, and the
+    // apostrophe ends one. The first letter is the previous letter at the start: "Pf" repeats
+    // nothing, "Pp" does. An accented letter writes nothing; the first is upper-cased.
+    const std::pair<const char*, const char*> codes[] = {
+        {"Robert", "R163"}, {"robert", "R163"}, {"Hello", "H400"}, {"a", "A000"}, {"", "000 "},
+        {"Jackson", "J222"}, {"Anna", "A500"}, {"Anan", "A550"}, {"Bell", "B400"}, {"BELL", "B400"},
+        {"Bel'l", "B440"}, {"o'clock", "O242"}, {"Ppb", "P100"}, {"Pfb", "P110"},
+        {"Washington", "W252"}, {"Tymczak", "T522"}, {"bfpv", "B111"}, {"xlmnr", "X455"}, {"3d", "3300"},
+        {"a-e-i", "A000"}, {"caf\xc3\xa9s", "C120"}, {"\xc3\xa9t\xc3\xa9", "\xc3\x89" "300"}, {"\nnext", "\n523"}};
+    for (const auto& [word, expected] : codes)
+        EXPECT_EQ(code(word), QString::fromUtf8(expected)) << word;
 }
 
 TEST(WordTree, BucketsKeepOrderAndDuplicatesAndIgnoreCaseOfKeys)
@@ -99,27 +81,14 @@ TEST(WordTest, CapitalRuleTrimAndNumbers)
     for (const char* w : {"paris", "London", "3D", "o'clock", "\xc3\xa9t\xc3\xa9"})
         tree.addWord(QString::fromUtf8(w));
     auto ok = [&](const char* w) { return Spelling::isCorrectWord(tree, QString::fromUtf8(w)); };
-    // A list entry in small letters matches in any case; one with a capital only exactly.
-    EXPECT_TRUE(ok("paris"));
-    EXPECT_TRUE(ok("Paris"));
-    EXPECT_TRUE(ok("PARIS"));
-    EXPECT_TRUE(ok("London"));
-    EXPECT_FALSE(ok("london"));
-    EXPECT_FALSE(ok("LONDON"));
-    // An entry that begins with a digit is compared exactly.
-    EXPECT_TRUE(ok("3D"));
-    EXPECT_FALSE(ok("3d"));
-    EXPECT_TRUE(ok("O'Clock"));
-    EXPECT_TRUE(ok("\xc3\x89T\xc3\x89"));
-    // Blanks are trimmed; an empty word is not correct.
-    EXPECT_TRUE(ok("  paris "));
-    EXPECT_FALSE(ok(""));
-    EXPECT_FALSE(ok("   "));
-    // Numbers as a whole pass without the tree.
-    for (const char* n : {"12", "1.5", "1e3", "-4", "+2.5E-3", ".5", "7."})
-        EXPECT_TRUE(ok(n)) << n;
-    for (const char* n : {"1e", "12th", "1.2.3", "e3", "-", "."})
-        EXPECT_FALSE(ok(n)) << n;
+    // A list entry in small letters matches in any case; one with a capital, or one that begins
+    // with a digit, only exactly. Blanks are trimmed; an empty word is not correct. Numbers as
+    // a whole pass without the tree.
+    for (const char* w : {"paris", "Paris", "PARIS", "London", "3D", "O'Clock", "\xc3\x89T\xc3\x89", "  paris ",
+                          "12", "1.5", "1e3", "-4", "+2.5E-3", ".5", "7."})
+        EXPECT_TRUE(ok(w)) << w;
+    for (const char* w : {"london", "LONDON", "3d", "", "   ", "1e", "12th", "1.2.3", "e3", "-", "."})
+        EXPECT_FALSE(ok(w)) << w;
 }
 
 TEST(WordTest, OnlyTheBucketOfTheWordsCodeCounts)
@@ -144,17 +113,11 @@ TEST(WordTest, OnlyTheBucketOfTheWordsCodeCounts)
 
 TEST(NumberRules, LeadingValue)
 {
-    using Spelling::leadingValue;
-    EXPECT_EQ(leadingValue(u"12th"), 12);
-    EXPECT_EQ(leadingValue(u"3d"), 3);
-    EXPECT_EQ(leadingValue(u"0x"), 0);
-    EXPECT_EQ(leadingValue(u"abc"), 0);
-    EXPECT_EQ(leadingValue(u"1e3x"), 1000);
-    EXPECT_EQ(leadingValue(u".5a"), 0.5);
-    EXPECT_EQ(leadingValue(u"-2-3"), -2);
-    EXPECT_EQ(leadingValue(u"1 2"), 12);
-    EXPECT_EQ(leadingValue(u"-"), 0);
-    EXPECT_EQ(leadingValue(u""), 0);
+    const std::pair<const char16_t*, double> values[] = {{u"12th", 12}, {u"3d", 3},     {u"0x", 0},   {u"abc", 0},
+                                                         {u"1e3x", 1000}, {u".5a", 0.5}, {u"-2-3", -2}, {u"1 2", 12},
+                                                         {u"-", 0},       {u"", 0}};
+    for (const auto& [text, value] : values)
+        EXPECT_EQ(Spelling::leadingValue(text), value) << QString::fromUtf16(text).toStdString();
 }
 
 TEST(NumberRules, ProperCase)

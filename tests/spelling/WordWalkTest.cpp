@@ -52,30 +52,22 @@ constexpr auto Misspelt = Spelling::WordStop::Misspelt;
 constexpr auto Capital = Spelling::WordStop::MissingCapital;
 }
 
-TEST(WordDivider, WordsEndAtTheFirstOtherCharacter)
+TEST(WordDivider, WordsApostrophesAndAbbreviations)
 {
-    EXPECT_EQ(divider("hello world", 1), 5);
-    EXPECT_EQ(divider("hello world", 0), 5) << "0 counts as 1";
-    EXPECT_EQ(divider("hello world", 7), 12) << "to the end: length plus 1";
-    EXPECT_EQ(divider(" lead", 1), 0);
-    EXPECT_EQ(divider("well-known fact", 1), 10);
-    EXPECT_EQ(divider("abc123 x", 1), 6);
-    EXPECT_EQ(divider("caf\xe9 x", 1), 3) << "only the ASCII letters are word characters";
-}
-
-TEST(WordDivider, ApostrophesAndAbbreviations)
-{
-    EXPECT_EQ(divider("don't stop", 1), 5);
-    EXPECT_EQ(divider("dogs' toys", 1), 4);
-    EXPECT_EQ(divider("'tis", 1), 0);
-    EXPECT_EQ(divider("e.g. this", 1), 4);
-    EXPECT_EQ(divider("U.S.A. now", 1), 5) << "the first two dots pass by the pattern";
-    EXPECT_EQ(divider("i.e.", 1), 5) << "the skip may run past the end";
-    EXPECT_EQ(divider("a.b c", 1), 1);
-    EXPECT_EQ(divider("1.2. x", 1), 1) << "digits are no letters for the pattern";
-    // "[A-z]" takes the six characters between the capitals and the small letters.
-    EXPECT_EQ(divider("`'x", 2), 4);
-    EXPECT_EQ(divider("~'x", 2), 1);
+    struct Case { const char* text; int start; int divider; };
+    const Case cases[] = {
+        {"hello world", 1, 5}, {"hello world", 0, 5},  // 0 counts as 1
+        {"hello world", 7, 12},                        // to the end: length plus 1
+        {" lead", 1, 0}, {"well-known fact", 1, 10}, {"abc123 x", 1, 6},
+        {"caf\xe9 x", 1, 3},                           // only the ASCII letters are word characters
+        {"don't stop", 1, 5}, {"dogs' toys", 1, 4}, {"'tis", 1, 0}, {"e.g. this", 1, 4},
+        {"U.S.A. now", 1, 5},                          // the first two dots pass by the pattern
+        {"i.e.", 1, 5},                                // the skip may run past the end
+        {"a.b c", 1, 1}, {"1.2. x", 1, 1},             // digits are no letters for the pattern
+        // "[A-z]" takes the six characters between the capitals and the small letters.
+        {"`'x", 2, 4}, {"~'x", 2, 1}};
+    for (const Case& c : cases)
+        EXPECT_EQ(divider(c.text, c.start), c.divider) << c.text << " from " << c.start;
 }
 
 TEST(WordDivider, SentenceStateLastsForTheWordAfterFullStopBlank)
