@@ -1,6 +1,6 @@
 // The settings reader and the page texts sit on the start-up path: keep them cheap.
 #include "documents/PageText.h"
-#include "shell/DetailsFile.h"
+#include "services/DetailsFile.h"
 
 #include <benchmark/benchmark.h>
 

@@ -8,7 +8,8 @@
 #include "platform/Application.h"
 #include "platform/CodeMax.h"
 #include "platform/ScriptedPrompts.h"
-#include "shell/Main.h"
+#include "app/Main.h"
+#include "shell/modMain.h"
 #include "shell/frmMain.h"
 
 #include <QCoreApplication>

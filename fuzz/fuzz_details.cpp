@@ -3,8 +3,8 @@
 // and a second load unchanged.
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/DetailsFile.h"
-#include "shell/PropertiesFile.h"
+#include "services/DetailsFile.h"
+#include "services/PropertiesFile.h"
 
 #include <QByteArray>
 #include <cstdint>

@@ -3,7 +3,7 @@
 // is a finding.
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 #include <QByteArray>
 #include <cstdint>

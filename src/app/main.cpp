@@ -1,8 +1,8 @@
+#include "app/Main.h"
 #include "documents/OpenSave.h"
 #include "platform/Application.h"
 #include "platform/EventProcedure.h"
 #include "platform/RuntimeError.h"
-#include "shell/Main.h"
 #include "shell/frmMain.h"
 
 #include <QFileInfo>

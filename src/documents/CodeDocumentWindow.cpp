@@ -1,5 +1,6 @@
 #include "documents/CodeDocumentWindow.h"
 
+#include "colour/PlatformColour.h"
 #include "documents/Insertion.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
@@ -10,8 +11,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 #include "platform/WebBrowser.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -28,7 +29,6 @@
 #include <QUrl>
 
 namespace {
-constexpr int heading = 52 | (129 << 8) | (211 << 16);  // RGB 52, 129, 211 as a platform value
 
 struct MenuItem {
     const char* parent;  // "" for the root menu
@@ -36,68 +36,78 @@ struct MenuItem {
     const char* caption;
     const char* icon;
     bool enabled;
+    void (*branch)();  // the window's own branch, or null for the main menu's
 };
 
-// The context menu, in order.
-const MenuItem contextItems[] = {
-    {"", "Page Properties", "Page Properties", "", true},
-    {"", "Editor Properties", "Editor Properties", "", true},
-    {"", "Format Text", "Format Text", "", true},
-    {"", "Undo", "Undo", "Undo", true},
-    {"", "Redo", "Redo", "Redo", true},
-    {"", "SelectAll", "Select All", "", true},
-    {"", "Cut", "Cut", "Cut", true},
-    {"", "Copy", "Copy", "Copy", true},
-    {"", "Paste", "Paste", "Paste", true},
-    {"", "Delete Selected", "Delete Selected", "Delete", true},
-    {"", "InsertNow", "Insert >>", "In", true},
-    {"InsertNow", "Text", "Text", "", true},
-    {"InsertNow", "Tabbed Text", "Tabbed Text", "", true},
-    {"InsertNow", "Image", "Image", "Image1", true},
-    {"InsertNow", "Table", "Table", "Table", true},
-    {"InsertNow", "Hyperlink", "Hyperlink", "Hyperlink", true},
-    {"", "KeyForm", "Insert Form >>", "html", true},
-    {"KeyForm", "Form", "Form", "", true},
-    {"KeyForm", "ListForm", "List Form", "", false},
-    {"KeyForm", "ListField", "List Field", "", false},
-    {"KeyForm", "1 Line Text Box", "Text Box", "", true},
-    {"KeyForm", "Scrolling TextBox", "Text Area", "", true},
-    {"KeyForm", "Password Box", "Password Box", "", true},
-    {"KeyForm", "File Upload", "File Upload", "", false},
-    {"KeyForm", "Radio Button", "Radio Button", "", true},
-    {"KeyForm", "Check Button", "Check Button", "", true},
-    {"KeyForm", "Push Button", "Push Button", "", true},
-    {"KeyForm", "Drop Menu", "Drop Menu", "", true},
-    {"KeyForm", "Label", "Label", "", false},
-    {"", "Spell Checker", "Spell Checker", "", true},
-    {"", "About", "About", "", true},
-};
-
-// Keys whose branch lives in this window's own dispatcher; the rest run the main menu's.
-bool ownBranch(const QString& key)
-{
-    static const QStringList own = {
-        QStringLiteral("Editor Properties"), QStringLiteral("Undo"), QStringLiteral("Redo"),
-        QStringLiteral("SelectAll"), QStringLiteral("Cut"), QStringLiteral("Copy"), QStringLiteral("Paste"),
-        QStringLiteral("Delete Selected"), QStringLiteral("Spell Checker"), QStringLiteral("Password Box"),
-        QStringLiteral("1 Line Text Box"), QStringLiteral("About")};
-    return own.contains(key);
-}
-
-DocumentWindow* active()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("ActiveForm"));
-    return doc;
-}
+DocumentWindow* active() { return ActiveDocument(); }
 
 const QString formFieldsTail =
     QStringLiteral(" name=T1 size=20><input type=submit value=Submit name=B1><input type=reset value=Reset name=B2></p>");
+
+void editorProperties()
+{
+    if (active()->isNotepad())
+        MsgBox(QStringLiteral("Not supported for Notepad yet"));
+    else
+        active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
 }
 
-std::function<void(const QString&)> CodeDocumentWindow::uploadToFtp;
-std::function<void(const QString&)> CodeDocumentWindow::openReport;
+void startSpellCheck()
+{
+    if (active()->isNotepad())
+        active()->startspell();
+    else
+        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
+               QStringLiteral(":: Notepad Only ::"));
+}
+
+// The context menu, in order. An item with a branch of its own runs it; the others run the
+// main menu's branch of their key (or show the window the key names).
+const MenuItem contextItems[] = {
+    {"", "Page Properties", "Page Properties", "", true, nullptr},
+    {"", "Editor Properties", "Editor Properties", "", true, editorProperties},
+    {"", "Format Text", "Format Text", "", true, nullptr},
+    {"", "Undo", "Undo", "Undo", true, [] { ResumeNext()([] { active()->CodeMax1()->undo(); }); }},
+    {"", "Redo", "Redo", "Redo", true, [] { ResumeNext()([] { active()->CodeMax1()->redo(); }); }},
+    {"", "SelectAll", "Select All", "", true, [] { active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll); }},
+    {"", "Cut", "Cut", "Cut", true, [] { QApplication::clipboard()->clear(); active()->CodeMax1()->cut(); }},
+    {"", "Copy", "Copy", "Copy", true, [] { QApplication::clipboard()->clear(); active()->CodeMax1()->copy(); }},
+    {"", "Paste", "Paste", "Paste", true, [] { active()->CodeMax1()->paste(); }},
+    {"", "Delete Selected", "Delete Selected", "Delete", true, [] { active()->CodeMax1()->DeleteSel(); }},
+    {"", "InsertNow", "Insert >>", "In", true, nullptr},
+    {"InsertNow", "Text", "Text", "", true, nullptr},
+    {"InsertNow", "Tabbed Text", "Tabbed Text", "", true, nullptr},
+    {"InsertNow", "Image", "Image", "Image1", true, nullptr},
+    {"InsertNow", "Table", "Table", "Table", true, nullptr},
+    {"InsertNow", "Hyperlink", "Hyperlink", "Hyperlink", true, nullptr},
+    {"", "KeyForm", "Insert Form >>", "html", true, nullptr},
+    {"KeyForm", "Form", "Form", "", true, nullptr},
+    {"KeyForm", "ListForm", "List Form", "", false, nullptr},
+    {"KeyForm", "ListField", "List Field", "", false, nullptr},
+    {"KeyForm", "1 Line Text Box", "Text Box", "", true,
+     [] { OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=text") + formFieldsTail); }); }},
+    {"KeyForm", "Scrolling TextBox", "Text Area", "", true, nullptr},
+    {"KeyForm", "Password Box", "Password Box", "", true,
+     [] { OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=password") + formFieldsTail); }); }},
+    {"KeyForm", "File Upload", "File Upload", "", false, nullptr},
+    {"KeyForm", "Radio Button", "Radio Button", "", true, nullptr},
+    {"KeyForm", "Check Button", "Check Button", "", true, nullptr},
+    {"KeyForm", "Push Button", "Push Button", "", true, nullptr},
+    {"KeyForm", "Drop Menu", "Drop Menu", "", true, nullptr},
+    {"KeyForm", "Label", "Label", "", false, nullptr},
+    {"", "Spell Checker", "Spell Checker", "", true, startSpellCheck},
+    {"", "About", "About", "", true, [] { showForm(QStringLiteral("AboutFORM")); }},
+};
+
+const MenuItem* contextItem(const QString& key)
+{
+    for (const MenuItem& item : contextItems)
+        if (key == QLatin1String(item.key))
+            return &item;
+    return nullptr;
+}
+}
+
 
 CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
 {
@@ -113,7 +123,7 @@ CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
     // The editor's look: line numbers in white on the heading colour.
     editor->setLineNumbering(true);
     editor->setDisplayLeftMargin(true);
-    editor->setColour(CodeMax::LineNumberBackColour, heading);
+    editor->setColour(CodeMax::LineNumberBackColour, PlatformColour::fromQColor(Look::heading));
     editor->setColour(CodeMax::LineNumberColour, 0xFFFFFF);
     editor->setLanguage(QStringLiteral("HTML"));
     editor->setContextMenuPolicy(Qt::NoContextMenu);
@@ -145,7 +155,7 @@ void CodeDocumentWindow::buildContextMenu()
         a->setObjectName(key);
         a->setData(key);
         // An item is live when the window has a branch for it and the build has that branch.
-        a->setEnabled(item.enabled && (ownBranch(key) || frmMain::hasCommand(key)));
+        a->setEnabled(item.enabled && (item.branch || Commands::available(key)));
         connect(a, &QAction::triggered, this, Event([this, key] { ContextMenuClick(key); }));
         contextActions.insert(key, a);
     }
@@ -155,42 +165,11 @@ QAction* CodeDocumentWindow::contextAction(const QString& key) const { return co
 
 void CodeDocumentWindow::ContextMenuClick(const QString& key)
 {
-    if (key == QLatin1String("Editor Properties")) {
-        if (active()->Tag() == QLatin1String("Pad"))
-            MsgBox(QStringLiteral("Not supported for Notepad yet"));
-        else
-            active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
-    } else if (key == QLatin1String("Spell Checker")) {
-        if (active()->Tag() == QLatin1String("Pad"))
-            active()->startspell();
-        else
-            MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-                   QStringLiteral(":: Notepad Only ::"));
-    } else if (key == QLatin1String("Undo")) {
-        ResumeNext()([] { active()->CodeMax1()->undo(); });
-    } else if (key == QLatin1String("Redo")) {
-        ResumeNext()([] { active()->CodeMax1()->redo(); });
-    } else if (key == QLatin1String("SelectAll")) {
-        active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll);
-    } else if (key == QLatin1String("Cut")) {
-        QApplication::clipboard()->clear();
-        active()->CodeMax1()->cut();
-    } else if (key == QLatin1String("Copy")) {
-        QApplication::clipboard()->clear();
-        active()->CodeMax1()->copy();
-    } else if (key == QLatin1String("Paste")) {
-        active()->CodeMax1()->paste();
-    } else if (key == QLatin1String("Delete Selected")) {
-        active()->CodeMax1()->DeleteSel();
-    } else if (key == QLatin1String("Password Box")) {
-        OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=password") + formFieldsTail); });
-    } else if (key == QLatin1String("1 Line Text Box")) {
-        OnErrorExit([] { InsertAtCaret(QStringLiteral("<p><input type=text") + formFieldsTail); });
-    } else if (key == QLatin1String("About")) {
-        showForm(QStringLiteral("AboutFORM"));
-    } else {
-        frmMain::instance()->MenuClick(key);
-    }
+    const MenuItem* item = contextItem(key);
+    if (item && item->branch)
+        item->branch();
+    else
+        Commands::click(key);
 }
 
 bool CodeDocumentWindow::eventFilter(QObject* watched, QEvent* event)
@@ -228,7 +207,7 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
         {"Print Preview", QStyle::SP_FileDialogContentsView, [this] { browser->PrintPreview(); }},
         {"View Full Screen", QStyle::SP_TitleBarMaxButton, [this] { fullScreen(); }},
         {"Upload To The Interent", QStyle::SP_ArrowUp, [this] { uploadPage(); }},
-        {"Email Page", QStyle::SP_DialogYesButton, [] { frmMain::instance()->MenuClick(QStringLiteral("Email File")); }},
+        {"Email Page", QStyle::SP_DialogYesButton, [] { Commands::click(QStringLiteral("Email File")); }},
         {"Lauch File To Default Program", QStyle::SP_DialogOpenButton, [this] { launchPage(); }},
     };
     if (withZoom) {
@@ -236,9 +215,7 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
         list.append({"Decrease Browser Text", QStyle::SP_ArrowDown, [this] { browser->zoomOut(); }});
     }
     list.append({"", QStyle::SP_FileDialogDetailedView, [this] {
-        if (openReport)
-            openReport(CodeMax1()->text());
-        showForm(QStringLiteral("frmReport"));
+        Q_EMIT reportRequested(CodeMax1()->text());
     }});
     int n = 0;
     for (const Button& b : list) {
@@ -259,8 +236,8 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
     // Buttons that lead to windows or commands this build does not have stay disabled.
     const int last = n;
     buttons.value(QStringLiteral("SmartNetButton3"))->setEnabled(Forms::hasFactory(QStringLiteral("FullPreview")));
-    buttons.value(QStringLiteral("SmartNetButton5"))->setEnabled(frmMain::hasCommand(QStringLiteral("Email File")));
-    buttons.value(QStringLiteral("SmartNetButton%1").arg(last))->setEnabled(Forms::hasFactory(QStringLiteral("frmReport")) && openReport);
+    buttons.value(QStringLiteral("SmartNetButton5"))->setEnabled(Commands::available(QStringLiteral("Email File")));
+    buttons.value(QStringLiteral("SmartNetButton%1").arg(last))->setEnabled(Forms::hasFactory(QStringLiteral("frmReport")));
     row->addSpacing(12);
     auto* image = new QLabel(bar);
     image->setObjectName(QStringLiteral("Image1"));
@@ -290,7 +267,7 @@ void CodeDocumentWindow::writeAndShowPreview(const QString& path)
 
 void CodeDocumentWindow::showTextStatus()
 {
-    frmMain* main = frmMain::loaded();
+    Workspace* main = loadedWorkspace();
     if (!main)
         return;
     main->setStatusText(3, QStringLiteral("Chr: ") + QString::number(editor->TextLength()));
@@ -303,8 +280,7 @@ void CodeDocumentWindow::uploadPage()
         MsgBox(QStringLiteral("You need to save this document before you can upload it."));
         return;
     }
-    if (uploadToFtp)
-        uploadToFtp(tempaddress()->text());
+    Q_EMIT uploadRequested(tempaddress()->text());
 }
 
 void CodeDocumentWindow::launchPage()

@@ -2,7 +2,6 @@
 #include "documents/DocumentWindow.h"
 
 #include <QHash>
-#include <functional>
 
 class QMenu;
 class QToolButton;
@@ -34,14 +33,14 @@ public:
     void ContextMenuClick(const QString& key);
     QAction* contextAction(const QString& key) const;
 
-    // The upload window's intake of a saved page; set by the upload window, unset while the
-    // build has none (the button then only checks that the page is saved).
-    static std::function<void(const QString& path)> uploadToFtp;
-    // The report window's intake of a page's text; set when the build has that window.
-    static std::function<void(const QString& text)> openReport;
-
     // The preview bar's buttons by their names.
     QToolButton* previewButton(const QString& name) const;
+
+Q_SIGNALS:
+    // The preview bar's upload button with a saved page: the upload window takes the path.
+    void uploadRequested(const QString& path);
+    // The preview bar's report button: the report window takes the page's text.
+    void reportRequested(const QString& text);
 
 protected:
     // The preview bar; the window puts it where its layout wants it.

@@ -3,8 +3,8 @@
 #include "platform/CodeMax.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
 
 #include <QCloseEvent>
 #include <QFile>
@@ -66,7 +66,7 @@ QString DocumentWindow::documentName() const
 
 void DocumentWindow::Form_Activate()
 {
-    frmMain::instance()->setDocumentCaption(documentName());
+    workspace().setDocumentCaption(documentName());
 }
 
 void DocumentWindow::saveForClose(const QString& path) { CodeMax1()->SaveFile(path, true); }
@@ -82,7 +82,7 @@ bool DocumentWindow::QueryUnload()
         return false;
     if (answer != Answer::Yes)
         return true;
-    DocumentWindow* active = frmMain::instance()->ActiveForm();
+    DocumentWindow* active = ActiveForm();
     const QString path = active ? active->tempaddress()->text() : QString();
     if (path.isEmpty()) {
         showForm(QStringLiteral("Saveas"));

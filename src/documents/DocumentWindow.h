@@ -13,7 +13,7 @@ class RichTextBox;
 class WebBrowser;
 
 // A child window of the main window: the document contract. Every tool reaches the active
-// document through frmMain::ActiveForm() and these members; asking a window for a member its
+// document through ActiveForm() (services/Workspace.h) and these members; asking a window for a member its
 // kind lacks is a run-time error (438), as the callers expect.
 class DocumentWindow : public QWidget, public Form {
     Q_OBJECT
@@ -22,6 +22,8 @@ public:
 
     // "Pad" marks a notepad; the code windows answer "".
     virtual QString Tag() const { return {}; }
+    // The window kind test: the only test of the tag.
+    bool isNotepad() const { return Tag() == QLatin1String("Pad"); }
     virtual CodeMax* CodeMax1();
     virtual RichTextBox* RichTextBox1();
     QLineEdit* tempaddress() const { return tempaddressBox; }

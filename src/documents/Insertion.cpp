@@ -4,19 +4,9 @@
 #include "platform/CodeMax.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
-DocumentWindow* ActiveDocument()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
-                           QStringLiteral("ActiveForm"));
-    return doc;
-}
-
-
-bool ActiveIsNotepad() { return ActiveDocument()->Tag() == QLatin1String("Pad"); }
+bool ActiveIsNotepad() { return ActiveDocument()->isNotepad(); }
 
 void InsertAtCaret(const QString& text)
 {

@@ -1,13 +1,10 @@
 #pragma once
 #include <QString>
 
-// How tools deliver text to the active document. Each call reads frmMain::ActiveForm() anew;
-// with no document the call raises the run-time error the tool's own trap swallows.
+#include "services/Workspace.h"
 
-class DocumentWindow;
-
-// The active document; with none, the run-time error 91 that the callers' traps expect.
-DocumentWindow* ActiveDocument();
+// How tools deliver text to the active document. Each call reads the active document anew;
+// with none the call raises the run-time error the tool's own trap swallows.
 
 // The window kind test: the active document is a notepad.
 bool ActiveIsNotepad();

@@ -11,9 +11,8 @@
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "platform/WindowCounter.h"
-#include "shell/AboutFORM.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -35,7 +34,7 @@ DocumentWindow* makeWindow(LoadAs how)
 // Reads the file into the window's text: the code editor, or the notepad's rich text.
 void loadInto(DocumentWindow* doc, const QString& path)
 {
-    if (doc->Tag() == QLatin1String("Pad"))
+    if (doc->isNotepad())
         doc->RichTextBox1()->LoadFile(path);
     else
         doc->CodeMax1()->OpenFile(path);
@@ -45,7 +44,7 @@ DocumentWindow* openWith(const QString& path, LoadAs how, const QString& caption
 {
     DocumentWindow* doc = makeWindow(how);
     doc->setCaption(caption);
-    frmMain::instance()->addDocument(doc);
+    workspace().addDocument(doc);
     loadInto(doc, path);
     doc->tempaddress()->setText(path);
     return doc;
@@ -55,7 +54,7 @@ DocumentWindow* openWith(const QString& path, LoadAs how, const QString& caption
 bool saveActiveToItsFile(DocumentWindow* doc, const QString& path)
 {
     try {
-        if (doc->Tag() == QLatin1String("Pad"))
+        if (doc->isNotepad())
             doc->RichTextBox1()->SaveFile(path);
         else
             doc->CodeMax1()->SaveFile(path, true);
@@ -70,7 +69,7 @@ bool saveActiveToItsFile(DocumentWindow* doc, const QString& path)
 
 void save(int noDocumentStyle, bool clearChange)
 {
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    DocumentWindow* doc = ActiveForm();
     if (!doc) {
         MsgBox(QStringLiteral("There is no document open to save."), noDocumentStyle, QStringLiteral(":: No Document ::"));
         return;
@@ -83,7 +82,7 @@ void save(int noDocumentStyle, bool clearChange)
     if (!saveActiveToItsFile(doc, path))
         return;
     MsgBox(QStringLiteral("Page Saved as :: ") + path, 64, QStringLiteral(":: Page Saved ::"));
-    if (clearChange && doc->Tag() != QLatin1String("Pad"))
+    if (clearChange && !doc->isNotepad())
         doc->Changedvalue()->setText(QString());
 }
 }
@@ -96,9 +95,9 @@ DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState)
     DocumentWindow* doc = openWith(path, how, caption);
     if (how != LoadAs::Notepad)
         doc->setCaption(QFileInfo(path).fileName());
-    frmMain::instance()->setDocumentCaption(path);
+    workspace().setDocumentCaption(path);
     if (windowState == 1 || windowState == 2)
-        frmMain::instance()->ActiveForm()->setWindowState(windowState);
+        ActiveForm()->setWindowState(windowState);
     return doc;
 }
 
@@ -106,19 +105,19 @@ void OpenAsPage(const QString& path)
 {
     DocumentWindow* doc = openWith(path, LoadAs::Page, QStringLiteral("Document %1").arg(panelPages.next()));
     doc->setCaption(QFileInfo(path).fileName());
-    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+    workspace().setCaption(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
 }
 
 void OpenAsNotepad(const QString& path)
 {
     openWith(path, LoadAs::Notepad, QStringLiteral("Notepad [ %1 ]").arg(panelNotepads.next()));
-    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+    workspace().setCaption(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
 }
 
 void OpenAsSplit(const QString& path)
 {
     auto* doc = static_cast<frmsplit*>(openWith(path, LoadAs::Split, QStringLiteral("HTML Split [ %1 ]").arg(panelSplits.next())));
-    frmMain::instance()->setWindowTitle(QStringLiteral("Velloro :: [ ") + path + QStringLiteral(" ]"));
+    workspace().setCaption(QStringLiteral("Velloro :: [ ") + path + QStringLiteral(" ]"));
     doc->SplitRefresh();
 }
 
@@ -131,7 +130,7 @@ DocumentWindow* NewNotepad()
 {
     auto* pad = new notepad;
     pad->setCaption(QStringLiteral("Notepad [ %1 ]").arg(quickNotepads.next()));
-    frmMain::instance()->addDocument(pad);
+    workspace().addDocument(pad);
     return pad;
 }
 
@@ -140,7 +139,7 @@ void ToolbarSave() { save(16, true); }
 
 void MenuSaveAs()
 {
-    if (!frmMain::instance()->ActiveForm()) {
+    if (!ActiveForm()) {
         MsgBox(QStringLiteral("There is no document open to save."), 0, QStringLiteral(":: No Document ::"));
         return;
     }
@@ -149,7 +148,7 @@ void MenuSaveAs()
 
 void CreateTemplates()
 {
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
+    DocumentWindow* doc = ActiveForm();
     if (!doc)
         throw RuntimeError::objectRequired();
     const QString path = doc->tempaddress()->text();
@@ -167,19 +166,3 @@ void CreateTemplates()
     });
 }
 
-void registerDocumentCommands()
-{
-    frmMain::registerCommand(QStringLiteral("Save"), [] { MenuSave(); });
-    frmMain::registerCommand(QStringLiteral("Save As"), [] { MenuSaveAs(); });
-    frmMain::registerCommand(QStringLiteral("Create Templates"), [] { CreateTemplates(); });
-    frmMain::registerCommand(QStringLiteral("Quick Notepad"), [] { NewNotepad(); });
-    frmMain::registerCommand(QStringLiteral("Find + Replace"), [] { showForm(QStringLiteral("findform")); });
-    frmMain::registerCommand(QStringLiteral("GoTo Line"), [] { showForm(QStringLiteral("frmgoto")); });
-}
-
-void registerDocumentForms()
-{
-    Forms::registerFactory(QStringLiteral("Openform"), [] { return new Openform; });
-    Forms::registerFactory(QStringLiteral("Saveas"), [] { return new Saveas; });
-    Forms::registerFactory(QStringLiteral("tmplsave"), [] { return new tmplsave; });
-}

@@ -32,8 +32,3 @@ void ToolbarSave();
 void MenuSaveAs();
 // The menu's "Create Templates".
 void CreateTemplates();
-
-// The commands above under their menu keys.
-void registerDocumentCommands();
-// The open, save and template windows, by name.
-void registerDocumentForms();

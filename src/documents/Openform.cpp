@@ -7,7 +7,7 @@
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/WindowCounter.h"
-#include "shell/AppProperties.h"
+#include "services/Settings.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -90,14 +90,15 @@ Openform::Openform(QWidget* parent) : QDialog(parent)
 void Openform::Form_Load()
 {
     // The folders of the last session, and the layout file keeps the new ones.
-    AppProperties* props = form<AppProperties>();
-    Drive1->setDrive(props->folders.openDrive);
-    Dir1->setPath(props->folders.openDir);
-    File1->setPath(props->folders.openFileDir);
-    connect(Dir1, &DirListBox::Change, props, [props, this](const QString& path) {
-        props->folders.openDir = path;
-        props->folders.openFileDir = path;
-        props->folders.openDrive = Drive1->Drive();
+    PropertiesRecord& folders = Settings::folders();
+    Drive1->setDrive(folders.openDrive);
+    Dir1->setPath(folders.openDir);
+    File1->setPath(folders.openFileDir);
+    connect(Dir1, &DirListBox::Change, this, [this](const QString& path) {
+        PropertiesRecord& f = Settings::folders();
+        f.openDir = path;
+        f.openFileDir = path;
+        f.openDrive = Drive1->Drive();
     });
 }
 

@@ -1,12 +1,14 @@
 #pragma once
+#include "documents/PageText.h"
 
-// New pages from the start screen's fields.
+class DocumentWindow;
 
-// The sound tag from the music fields, then GenerateWebPage.
-void PrepareSoundTag();
-// A new web page window with the plain or styled skeleton.
-void GenerateWebPage();
-// A new split view window with the plain skeleton.
-void GenerateSplitPage();
+// New pages from the start screen's fields. The start screen hides itself and forgets its
+// sound tag once a page is made (its own steps, not the generator's).
+
+// A new web page window with the plain or styled skeleton, named after the title.
+DocumentWindow* GenerateWebPage(const PageText::Fields& fields, bool styled);
+// A new split view window with the plain skeleton, named after the title.
+DocumentWindow* GenerateSplitPage(const PageText::Fields& fields);
 // The first page of a start-up.
 void CreateStartupPage();

@@ -5,7 +5,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QPrinter>
 
@@ -17,10 +17,8 @@ QPrinter& documentPrinter()
 
 void PrintDocument()
 {
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("PrintDocument"));
-    if (doc->Tag() != QLatin1String("Pad"))
+    DocumentWindow* doc = ActiveDocument();
+    if (!doc->isNotepad())
         doc->RichTextBox1()->setText(doc->CodeMax1()->text());
     QPrinter& printer = documentPrinter();
     if (!prompts().print(printer, doc->RichTextBox1()->SelLength() != 0))

@@ -7,9 +7,8 @@
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
-#include "shell/AppProperties.h"
-#include "shell/Options.h"
-#include "shell/frmMain.h"
+#include "services/Settings.h"
+#include "services/Workspace.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -25,13 +24,7 @@
 using Look::named;
 
 namespace {
-DocumentWindow* active()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("ActiveForm"));
-    return doc;
-}
+DocumentWindow* active() { return ActiveDocument(); }
 }
 
 Saveas::Saveas(QWidget* parent) : QDialog(parent)
@@ -88,20 +81,21 @@ Saveas::Saveas(QWidget* parent) : QDialog(parent)
 void Saveas::Form_Load()
 {
     // The type list comes from the save extensions option.
-    QString extensions = form<Options>()->txtSaveEx->text();
+    QString extensions = Settings::details().txtSaveEx;
     if (extensions.startsWith(QLatin1Char('"')))
         extensions = extensions.mid(1);
     Combo1->clear();
     Combo1->addItems(extensions.split(QLatin1Char(','), Qt::SkipEmptyParts));
 
-    AppProperties* props = form<AppProperties>();
-    Drive1->setDrive(props->folders.saveDrive);
-    Dir1->setPath(props->folders.saveDir);
-    File1->setPath(props->folders.saveFileDir);
-    connect(Dir1, &DirListBox::Change, props, [props, this](const QString& path) {
-        props->folders.saveDir = path;
-        props->folders.saveFileDir = path;
-        props->folders.saveDrive = Drive1->Drive();
+    PropertiesRecord& folders = Settings::folders();
+    Drive1->setDrive(folders.saveDrive);
+    Dir1->setPath(folders.saveDir);
+    File1->setPath(folders.saveFileDir);
+    connect(Dir1, &DirListBox::Change, this, [this](const QString& path) {
+        PropertiesRecord& f = Settings::folders();
+        f.saveDir = path;
+        f.saveFileDir = path;
+        f.saveDrive = Drive1->Drive();
     });
 }
 

@@ -6,7 +6,7 @@
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "platform/WindowCounter.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QLineEdit>
 
@@ -21,11 +21,11 @@ DocumentWindow* OpenTemplatePage(const QString& path)
     const int n = templatePages.next();
     auto* doc = new frmDocument;
     doc->setCaption(QStringLiteral("Document ") + QString::number(n));
-    frmMain::instance()->addDocument(doc);
+    workspace().addDocument(doc);
     OnErrorExit([&] {
         doc->CodeMax1()->OpenFile(path);
         doc->tempaddress()->setText(path);
-        frmMain::instance()->setWindowTitle(QStringLiteral("Velloro 2002 :: [ ") + path + QStringLiteral(" ]"));
+        workspace().setCaption(QStringLiteral("Velloro 2002 :: [ ") + path + QStringLiteral(" ]"));
         if (QWidget* browser = Forms::find(QStringLiteral("Templates")))
             browser->hide();
     });

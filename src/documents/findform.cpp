@@ -8,7 +8,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -24,29 +24,14 @@
 namespace {
 using Look::named;
 
-const QString pad = QStringLiteral("Pad");
 
 // The active child, read anew for every use; none is the run-time error the trap swallows.
-DocumentWindow* active()
-{
-    frmMain* main = frmMain::loaded();
-    DocumentWindow* doc = main ? main->ActiveForm() : nullptr;
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
-                           QStringLiteral("ActiveForm"));
-    return doc;
-}
+DocumentWindow* active() { return ActiveDocument(); }
 
 QString foundOnLine(int pos)
 {
     return QStringLiteral("Word found on line ") + QString::number(active()->RichTextBox1()->GetLineFromChar(pos) + 1);
 }
-}
-
-void registerFindForms()
-{
-    Forms::registerFactory(QStringLiteral("findform"), [] { return static_cast<QWidget*>(new findform); });
-    Forms::registerFactory(QStringLiteral("frmgoto"), [] { return static_cast<QWidget*>(new frmgoto); });
 }
 
 findform::findform(QWidget* parent) : QDialog(parent)
@@ -131,12 +116,11 @@ void findform::Form_Activate()
 
 void findform::refreshCopy(bool always)
 {
-    frmMain* main = frmMain::loaded();
-    DocumentWindow* doc = main ? main->ActiveForm() : nullptr;
+    DocumentWindow* doc = ActiveForm();
     if (!doc)
         return;
     OnErrorExit([doc, always] {
-        if (doc->Tag() == pad)
+        if (doc->isNotepad())
             return;
         RichTextBox* copy = doc->RichTextBox1();
         const QString code = doc->CodeMax1()->text();
@@ -210,7 +194,7 @@ void findform::Command2_Click()
         active()->RichTextBox1()->setSelText(Text2->text());
         Text1->clear();
         Text2->clear();
-        if (active()->Tag() != pad)
+        if (!active()->isNotepad())
             active()->CodeMax1()->setText(active()->RichTextBox1()->text());
         if (Check1->isChecked())
             hide();
@@ -220,7 +204,7 @@ void findform::Command2_Click()
 void findform::Command4_Click()
 {
     OnErrorExit([] {
-        if (active()->Tag() != pad)
+        if (!active()->isNotepad())
             active()->CodeMax1()->setText(active()->RichTextBox1()->text());
     });
     hide();

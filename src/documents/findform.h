@@ -54,5 +54,3 @@ private:
     int promptDepth = 0;
 };
 
-// Makes findform and frmgoto known by name.
-void registerFindForms();

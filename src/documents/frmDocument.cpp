@@ -4,7 +4,7 @@
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/WebBrowser.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -81,7 +81,7 @@ void frmDocument::editorChanged()
 void frmDocument::Form_Activate()
 {
     DocumentWindow::Form_Activate();
-    frmMain::instance()->setStatusText(1, QStringLiteral("Page Loaded ::  ") + documentName());
+    workspace().setStatusText(1, QStringLiteral("Page Loaded ::  ") + documentName());
     showTextStatus();
     CodeMax1()->setFocus();
 }

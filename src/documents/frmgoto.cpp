@@ -5,7 +5,7 @@
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/RuntimeError.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -39,11 +39,7 @@ void frmgoto::Form_Load()
 void frmgoto::Command1_Click()
 {
     OnErrorExit([this] {
-        frmMain* main = frmMain::loaded();
-        DocumentWindow* doc = main ? main->ActiveForm() : nullptr;
-        if (!doc)
-            throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"),
-                               QStringLiteral("ActiveForm"));
+        DocumentWindow* doc = ActiveDocument();
         CodeMax* editor = doc->CodeMax1();
         // What is not a whole number cannot be compared with the line count.
         bool ok = false;

@@ -8,8 +8,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 #include "platform/Twips.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -34,8 +34,6 @@ QString lineNumberText(int line)
     return (QStringLiteral("0000") + QString::number(line).trimmed()).right(4);
 }
 
-std::function<void(notepad*)> notepad::spellCheck;
-std::function<void(notepad*)> notepad::makeSpellChecker;
 
 namespace {
 // The strip left of the text that shows the numbers of the visible lines.
@@ -79,24 +77,54 @@ private:
 // The twips the ruler's marker is drawn from, and the pointer's offset while it is dragged.
 constexpr int markerOffsetTwips = 200;
 
-const char* windowOfItem(const QString& key)
-{
-    static const QHash<QString, const char*> windows = {
-        {QStringLiteral("page"), "pageproperties"}, {QStringLiteral("formattext"), "Fontform"},
-        {QStringLiteral("text"), "Textinput"}, {QStringLiteral("btext"), "bulletform"},
-        {QStringLiteral("image"), "imageform"}, {QStringLiteral("table"), "Tableform"},
-        {QStringLiteral("hyperlink"), "Hyperlink1"}, {QStringLiteral("quickbar"), "sidebar"},
-        {QStringLiteral("about"), "AboutFORM"}};
-    return windows.value(key, nullptr);
-}
+DocumentWindow* active() { return ActiveDocument(); }
 
-DocumentWindow* active()
-{
-    DocumentWindow* doc = frmMain::instance()->ActiveForm();
-    if (!doc)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), QStringLiteral("ActiveForm"));
-    return doc;
-}
+struct MenuItem {
+    const char* parent;   // "" for the root menu
+    const char* key;
+    const char* caption;
+    void (*branch)(notepad*);  // the menu's own branch, or null: the key's window is shown
+};
+
+// The popup menu, in order. The show items open the windows that the one table of keys to
+// windows names for their keys.
+const MenuItem menuItems[] = {
+    {"", "page", "Page Properties", nullptr},
+    {"", "edproperties", "Editor Properties", [](notepad*) {
+         if (active()->isNotepad())
+             MsgBox(QStringLiteral("Not supported for Notepad yet"));
+         else
+             active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
+     }},
+    {"", "formattext", "Format Text", nullptr},
+    // Written for the code editor, with errors ignored: nothing happens in a notepad.
+    {"", "undo", "Undo", [](notepad*) { ResumeNext()([] { active()->CodeMax1()->undo(); }); }},
+    {"", "redo", "Redo", [](notepad*) { ResumeNext()([] { active()->CodeMax1()->redo(); }); }},
+    // Written for the code editor without a guard: in a notepad these are run-time errors.
+    {"", "select", "Select All", [](notepad*) { active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll); }},
+    {"", "cut", "Cut", [](notepad*) { QApplication::clipboard()->clear(); active()->CodeMax1()->cut(); }},
+    {"", "copy", "Copy", [](notepad*) { QApplication::clipboard()->clear(); active()->CodeMax1()->copy(); }},
+    {"", "paste", "Paste", [](notepad*) { active()->CodeMax1()->paste(); }},
+    {"", "delete", "Delete Selected", [](notepad*) { active()->CodeMax1()->DeleteSel(); }},
+    {"", "insenow", "Insert Now", nullptr},
+    {"insenow", "text", "Text", nullptr},
+    {"insenow", "btext", "Bullet Text", nullptr},
+    {"insenow", "image", "Image", nullptr},
+    {"insenow", "table", "Table", nullptr},
+    {"insenow", "hyperlink", "Hyperlink", nullptr},
+    {"", "quickbar", "Quick Bar", nullptr},
+    {"", "quickside", "Quick Side", [](notepad* pad) {
+         workspace().setSideholderVisible(pad->mnu->findChild<QAction*>(QStringLiteral("quickside"))->isChecked());
+     }},
+    {"", "spellchecker", "Spell Checker", [](notepad*) {
+         if (active()->isNotepad())
+             active()->startspell();
+         else
+             MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
+                    QStringLiteral(":: Notepad Only ::"));
+     }},
+    {"", "about", "About", nullptr},
+};
 }
 
 notepad::notepad(QWidget* parent) : DocumentWindow(parent)
@@ -154,27 +182,15 @@ notepad::notepad(QWidget* parent) : DocumentWindow(parent)
     connect(box, &RichTextBox::Change, this, &notepad::textChanged);
     connect(tabnumber, &QLineEdit::textChanged, this, Event([this] { tabnumberChanged(); }));
     buildMenu();
-    // The window owns its spell checker from its load on.
-    if (makeSpellChecker)
-        makeSpellChecker(this);
 }
 
 void notepad::buildMenu()
 {
-    struct Item { const char* parent; const char* key; const char* caption; };
-    static const Item items[] = {
-        {"", "page", "Page Properties"}, {"", "edproperties", "Editor Properties"}, {"", "formattext", "Format Text"},
-        {"", "undo", "Undo"}, {"", "redo", "Redo"}, {"", "select", "Select All"}, {"", "cut", "Cut"},
-        {"", "copy", "Copy"}, {"", "paste", "Paste"}, {"", "delete", "Delete Selected"},
-        {"", "insenow", "Insert Now"}, {"insenow", "text", "Text"}, {"insenow", "btext", "Bullet Text"},
-        {"insenow", "image", "Image"}, {"insenow", "table", "Table"}, {"insenow", "hyperlink", "Hyperlink"},
-        {"", "quickbar", "Quick Bar"}, {"", "quickside", "Quick Side"}, {"", "spellchecker", "Spell Checker"},
-        {"", "about", "About"}};
     mnu = new QMenu(QStringLiteral("Menu"), this);
     mnu->setObjectName(QStringLiteral("mnu"));
-    mnu->setStyleSheet(QStringLiteral("QMenu::item:selected { background: rgb(193, 210, 238); color: black; }"));
+    mnu->setStyleSheet(QStringLiteral("QMenu::item:selected { background: %1; color: black; }").arg(Look::face.name()));
     QMenu* insert = nullptr;
-    for (const Item& item : items) {
+    for (const MenuItem& item : menuItems) {
         const QString key = QString::fromLatin1(item.key);
         if (key == QLatin1String("insenow")) {
             insert = mnu->addMenu(QString::fromLatin1(item.caption));
@@ -184,64 +200,34 @@ void notepad::buildMenu()
         QMenu* parentMenu = *item.parent ? insert : mnu;
         QAction* a = parentMenu->addAction(QString::fromLatin1(item.caption));
         a->setObjectName(key);
-        if (const char* window = windowOfItem(key))
-            a->setEnabled(Forms::hasFactory(QString::fromLatin1(window)));
+        if (!item.branch)
+            a->setEnabled(Commands::available(key));
         if (key == QLatin1String("quickside")) {
             a->setCheckable(true);
             a->setChecked(true);
         }
-        if (key == QLatin1String("spellchecker"))
-            a->setEnabled(bool(spellCheck));
         connect(a, &QAction::triggered, this, Event([this, key] { MenuClick(key); }));
     }
 }
 
 void notepad::MenuClick(const QString& key)
 {
-    if (const char* window = windowOfItem(key)) {
-        showForm(QString::fromLatin1(window));
-    } else if (key == QLatin1String("edproperties")) {
-        if (active()->Tag() == QLatin1String("Pad"))
-            MsgBox(QStringLiteral("Not supported for Notepad yet"));
+    for (const MenuItem& item : menuItems) {
+        if (key != QLatin1String(item.key))
+            continue;
+        if (item.branch)
+            item.branch(this);
         else
-            active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
-    } else if (key == QLatin1String("spellchecker")) {
-        if (active()->Tag() == QLatin1String("Pad"))
-            active()->startspell();
-        else
-            MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-                   QStringLiteral(":: Notepad Only ::"));
-    } else if (key == QLatin1String("quickside")) {
-        QAction* a = mnu->findChild<QAction*>(key);
-        frmMain::instance()->Sideholder->setVisible(a->isChecked());
-    } else if (key == QLatin1String("undo")) {
-        // Written for the code editor, with errors ignored: nothing happens in a notepad.
-        ResumeNext()([] { active()->CodeMax1()->undo(); });
-    } else if (key == QLatin1String("redo")) {
-        ResumeNext()([] { active()->CodeMax1()->redo(); });
-    } else if (key == QLatin1String("cut") || key == QLatin1String("copy")) {
-        // Written for the code editor without a guard: in a notepad this is a run-time error.
-        QApplication::clipboard()->clear();
-        CodeMax* editor = active()->CodeMax1();
-        key == QLatin1String("cut") ? editor->cut() : editor->copy();
-    } else if (key == QLatin1String("paste")) {
-        active()->CodeMax1()->paste();
-    } else if (key == QLatin1String("delete")) {
-        active()->CodeMax1()->DeleteSel();
-    } else if (key == QLatin1String("select")) {
-        active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll);
+            Commands::run(key);
+        return;
     }
 }
 
-void notepad::startspell()
-{
-    if (spellCheck)
-        spellCheck(this);
-}
+void notepad::startspell() { Q_EMIT spellCheckRequested(); }
 
 void notepad::textChanged()
 {
-    if (frmMain* main = frmMain::loaded()) {
+    if (Workspace* main = loadedWorkspace()) {
         const QString text = box->text();
         main->setStatusText(3, QStringLiteral("Chr: ") + QString::number(text.size()));
         main->setStatusText(2, QStringLiteral("Lines: ") + QString::number(box->GetLineFromChar(text.size()) + 1));
@@ -317,5 +303,5 @@ void notepad::saveForClose(const QString& path)
     const QString text = box->text();
     staging->setPlainText(text);
     if (!TextFiles::writeText(path, text + QStringLiteral("\r\n")))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("notepad"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("notepad"));
 }

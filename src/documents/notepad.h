@@ -1,8 +1,6 @@
 #pragma once
 #include "documents/DocumentWindow.h"
 
-#include <functional>
-
 class QFrame;
 class QMenu;
 class QTimer;
@@ -23,10 +21,6 @@ public:
     QPlainTextEdit* tempbox() override { return staging; }
     // Starts the spell check of the text.
     void startspell() override;
-    // The spell checker's entry, set by the spelling window; unset, the check is not offered.
-    static std::function<void(notepad*)> spellCheck;
-    // Gives a new notepad its spell checker object; set by the spelling library.
-    static std::function<void(notepad*)> makeSpellChecker;
 
     // The popup menu and its dispatcher (the items' names are the keys).
     QMenu* mnu = nullptr;
@@ -43,6 +37,10 @@ public:
     QStringList visibleLineNumbers() const;
     // The ruler marker's position in twips; moving it shifts the selection's indent.
     void moveTabMarker(int leftTwips);
+
+Q_SIGNALS:
+    // Asks the spell checker, which attaches itself to every new notepad, to check the text.
+    void spellCheckRequested();
 
 protected:
     bool tracksChanges() const override { return false; }

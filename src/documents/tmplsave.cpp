@@ -8,8 +8,8 @@
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -60,7 +60,7 @@ void tmplsave::Command1_Click()
 {
     OnErrorExit([this] {
         const QString folder = App::path() + QStringLiteral("/Templates/");
-        DocumentWindow* doc = frmMain::instance()->ActiveForm();
+        DocumentWindow* doc = ActiveForm();
         if (!doc)
             throw RuntimeError::objectRequired(QStringLiteral("tmplsave"));
         // Only a notepad has the staging box: elsewhere the save ends here.
@@ -76,7 +76,7 @@ void tmplsave::Command1_Click()
         }
         QDir().mkpath(folder);
         if (!TextFiles::writeText(path, doc->RichTextBox1()->text() + QStringLiteral("\r\n")))
-            throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("tmplsave"));
+            throw RuntimeError::pathFileAccess(QStringLiteral("tmplsave"));
         MsgBox(QStringLiteral(" Page Saved ::  ") + path);
         if (Check1->isChecked()) {
             QWidget* w = doc->subWindow() ? static_cast<QWidget*>(doc->subWindow()) : doc;

@@ -15,7 +15,6 @@
 
 #include <unistd.h>
 
-std::function<void(const QString&)> FtpEngine::showFolder;
 
 namespace {
 const QString crlf = QStringLiteral("\r\n");
@@ -290,15 +289,15 @@ void FtpEngine::dataClosed()
         return;
     if (data->bytesAvailable() > 0)
         dataReadyRead();
-    const bool retrieved = tag2 == QLatin1String("RETR");
-    if (retrieved)
+    const bool wasRetrieve = tag2 == QLatin1String("RETR");
+    if (wasRetrieve)
         download.reset();
     if (tag2 == QLatin1String("LIST") && !listingHeld.isEmpty())
         Q_EMIT listingData(QString::fromUtf8(TextFiles::toEditorText(listingHeld)));
     tag2.clear();
     closeData();
-    if (retrieved && showFolder)
-        showFolder(downloadFolder());
+    if (wasRetrieve)
+        Q_EMIT retrieved(downloadFolder());
 }
 
 void FtpEngine::dataError(int socketError)

@@ -67,9 +67,6 @@ public:
     // temporary folder.
     static QString downloadFolder();
     static QString downloadPath();
-    // Shows the folder that received a download. The windows set it to the desktop's file
-    // manager; tests replace it so that nothing starts.
-    static std::function<void(const QString& folder)> showFolder;
 
     // How the file being sent is cut: the size of a piece read from disk, and how many bytes
     // may wait in the socket's buffer before the next piece is read.
@@ -77,6 +74,8 @@ public:
     static constexpr qint64 bufferLimit = 4 << 20;
 
 Q_SIGNALS:
+    // A download has arrived in this folder (the windows show it in the file manager).
+    void retrieved(const QString& folder);
     // Panel 2 of the upload window's status bar.
     void statusText(const QString& text);
     // Control data arrived: the server is up (green shape, disconnect and upload buttons on).
@@ -118,7 +117,6 @@ private:
     void sendOne(const QString& source, const QString& remoteName);
     void pump();
     void finishUpload();
-    void closeDownload();
 
     QTcpSocket* control = nullptr;
     QTcpSocket* data = nullptr;

@@ -3,7 +3,7 @@
 #include "platform/App.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 #include <QDir>
 #include <QFile>

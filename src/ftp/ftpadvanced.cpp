@@ -1,6 +1,7 @@
 #include "ftp/ftpadvanced.h"
 
 #include "ftp/FtpEngine.h"
+#include "platform/Desktop.h"
 #include "ftp/ftpnormal.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTcpSocket>
 #include <QTextCursor>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -131,6 +133,7 @@ ftpadvanced::ftpadvanced(QWidget* parent) : QDialog(parent), ftp(new FtpEngine(t
         if (withUpload)
             n->Command2->setEnabled(true);
     }));
+    connect(ftp, &FtpEngine::retrieved, this, [](const QString& folder) { Desktop::openUrl(QUrl::fromLocalFile(folder)); });
     connect(ftp, &FtpEngine::replyLine, this, Event([this](const QString& l) { appendLog(l); }));
     connect(ftp, &FtpEngine::controlDetails, this, Event([this] { refreshDetails(); }));
     connect(ftp, &FtpEngine::listingData, this, Event([this](const QString& t) {

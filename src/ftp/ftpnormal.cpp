@@ -1,6 +1,6 @@
 #include "ftp/ftpnormal.h"
 
-#include "documents/CodeDocumentWindow.h"
+#include "colour/PlatformColour.h"
 #include "ftp/FtpEngine.h"
 #include "ftp/FtpProfiles.h"
 #include "ftp/ftpUsers.h"
@@ -11,6 +11,7 @@
 #include "platform/Prompts.h"
 #include "platform/Twips.h"
 
+#include <climits>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -28,7 +29,6 @@
 #include <QTreeWidget>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <climits>
 
 namespace {
 using Look::named;
@@ -42,7 +42,7 @@ qint64 fileLen(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists() || info.isDir())
-        throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("FileLen"));
+        throw RuntimeError::fileNotFound(QStringLiteral("FileLen"));
     return info.size();
 }
 
@@ -57,21 +57,6 @@ qint64 leadingNumber(const QString& text)
         v = v * 10 + text[i].digitValue();
     return v;
 }
-}
-
-void registerFtpForms()
-{
-    Forms::registerFactory(QStringLiteral("ftpUsers"), [] { return static_cast<QWidget*>(new ftpUsers); });
-    Forms::registerFactory(QStringLiteral("ftpnormal"), [] { return static_cast<QWidget*>(new ftpnormal); });
-    Forms::registerFactory(QStringLiteral("ftpadvanced"), [] { return static_cast<QWidget*>(new ftpadvanced); });
-    if (!FtpEngine::showFolder)
-        FtpEngine::showFolder = [](const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); };
-    CodeDocumentWindow::uploadToFtp = [](const QString& path) {
-        ftpnormal* n = form<ftpnormal>();
-        n->addFile(QFileInfo(path).fileName(), path);
-        n->show();
-        n->raise();
-    };
 }
 
 void uploadProjectToFtp(const QList<QPair<QString, QString>>& files) { form<ftpnormal>()->addProject(files); }
@@ -263,7 +248,7 @@ void ftpnormal::setServerShape(int colour)
 {
     shapeColour = colour;
     QPalette p = Shape1->palette();
-    p.setColor(QPalette::Window, QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF));
+    p.setColor(QPalette::Window, PlatformColour::toQColor(colour));
     Shape1->setPalette(p);
 }
 

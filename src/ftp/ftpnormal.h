@@ -99,8 +99,6 @@ private:
     void showBytes();
 };
 
-// Registers ftpUsers, ftpnormal and ftpadvanced, and lets web page windows queue their file.
-void registerFtpForms();
 // The project panel's "Upload Project To FTP Server": queues each (name, path) and shows the
 // upload window.
 void uploadProjectToFtp(const QList<QPair<QString, QString>>& files);

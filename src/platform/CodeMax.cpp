@@ -1,10 +1,17 @@
 #include "platform/CodeMax.h"
 
+#include "colour/PlatformColour.h"
 #include "platform/EditorOptionsDialog.h"
 #include "platform/FindReplaceDialog.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 
+#include <climits>
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
 #include <Qsci/qscilexercpp.h>
 #include <Qsci/qscilexerhtml.h>
 #include <Qsci/qscilexerjava.h>
@@ -12,13 +19,6 @@
 #include <Qsci/qscilexersql.h>
 #include <Qsci/qscilexerxml.h>
 #include <Qsci/qscimacro.h>
-
-#include <QAccessible>
-#include <QAccessibleWidget>
-#include <QFile>
-#include <climits>
-#include <QFileInfo>
-#include <QFontDatabase>
 
 namespace {
 QHash<QString, CodeMax::LexerFactory>& languageTable()
@@ -68,7 +68,7 @@ void installPlainAccessible()
 // QScintilla's handlers.
 constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
 
-QColor fromPlatformColour(int c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
 }
 
 CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
@@ -317,7 +317,7 @@ void CodeMax::OpenFile(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("CodeMax.OpenFile"));
+        throw RuntimeError::fileNotFound(QStringLiteral("CodeMax.OpenFile"));
     load(file);
 }
 
@@ -354,7 +354,7 @@ void CodeMax::load(QIODevice& source)
             // leave a cut page that a save could put in place of the whole one.
             SendScintilla(SCI_CLEARALL);
             finish();
-            throw RuntimeError(57, QStringLiteral("Device I/O error"), QStringLiteral("CodeMax.OpenFile"));
+            throw RuntimeError::deviceIoError(QStringLiteral("CodeMax.OpenFile"));
         }
         append(TextFiles::toEditorText(held + bytes, &held));
     }
@@ -366,10 +366,10 @@ void CodeMax::load(QIODevice& source)
 void CodeMax::SaveFile(const QString& path, bool overwrite)
 {
     if (!overwrite && QFileInfo::exists(path))
-        throw RuntimeError(58, QStringLiteral("File already exists"), QStringLiteral("CodeMax.SaveFile"));
+        throw RuntimeError::fileAlreadyExists(QStringLiteral("CodeMax.SaveFile"));
     QString error;
     if (!TextFiles::writeBytes(path, utf8Text(), &error))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("CodeMax.SaveFile"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("CodeMax.SaveFile"));
 }
 
 void CodeMax::registerLanguage(const QString& name, LexerFactory factory)
@@ -448,7 +448,7 @@ void CodeMax::setDisplayWhitespace(bool on) { setWhitespaceVisibility(on ? WsVis
 
 void CodeMax::setColour(int item, int platformColour)
 {
-    const QColor c = fromPlatformColour(platformColour);
+    const QColor c = PlatformColour::toQColor(platformColour);
     switch (item) {
     case LeftMarginColour: setFoldMarginColors(c, c); setMarginsBackgroundColor(c); break;
     case LineNumberColour: setMarginsForegroundColor(c); break;

@@ -1,7 +1,9 @@
 #include "platform/EditorOptionsDialog.h"
 
+#include "colour/PlatformColour.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
+#include "platform/Look.h"
 #include "platform/Prompts.h"
 
 #include <QCheckBox>
@@ -10,9 +12,9 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QPushButton>
+#include <Qsci/qscilexer.h>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <Qsci/qscilexer.h>
 
 namespace {
 QColor colourOf(const QPushButton* b) { return b->property("colour").value<QColor>(); }
@@ -130,9 +132,9 @@ EditorOptionsDialog::EditorOptionsDialog(CodeMax* editor) : QDialog(editor, Qt::
 void EditorOptionsDialog::chooseColour(QPushButton* button)
 {
     const QColor c = colourOf(button);
-    const std::optional<int> chosen = prompts().colour(c.red() | (c.green() << 8) | (c.blue() << 16));
+    const std::optional<int> chosen = prompts().colour(PlatformColour::fromQColor(c));
     if (chosen)
-        setColourOf(button, QColor(*chosen & 0xFF, (*chosen >> 8) & 0xFF, (*chosen >> 16) & 0xFF));
+        setColourOf(button, PlatformColour::toQColor(*chosen));
 }
 
 EditorOptionsDialog::Values EditorOptionsDialog::read(const CodeMax* editor)
@@ -147,7 +149,7 @@ EditorOptionsDialog::Values EditorOptionsDialog::read(const CodeMax* editor)
     v.text = lexer ? lexer->defaultColor() : editor->palette().color(QPalette::Text);
     v.paper = lexer ? lexer->defaultPaper() : editor->palette().color(QPalette::Base);
     v.margin = editor->property("marginColour").isValid() ? editor->property("marginColour").value<QColor>()
-                                                          : QColor(52, 129, 211);
+                                                          : Look::heading;
     v.lineNumbers = editor->LineNumbering();
     v.leftMargin = editor->DisplayLeftMargin();
     v.whitespace = editor->DisplayWhitespace();

@@ -57,7 +57,7 @@ QWidget* get(const QString& name)
         return w;
     const auto factory = reg().factories.value(name);
     if (!factory)
-        throw RuntimeError(424, QStringLiteral("Object required: %1").arg(name), name);
+        throw RuntimeError::objectRequired(name);
     QWidget* w = factory();
     w->setObjectName(name);
     reg().singles.insert(name, w);

@@ -56,6 +56,14 @@ F* form()
     return static_cast<F*>(Forms::get(name));
 }
 
+// Registers F's single instance under its class name, which is the window's name.
+template <class F>
+void registerForm()
+{
+    Forms::registerFactory(QString::fromLatin1(F::staticMetaObject.className()),
+                           [] { return static_cast<QWidget*>(new F); });
+}
+
 // F's loaded instance or null.
 template <class F>
 F* loadedForm()

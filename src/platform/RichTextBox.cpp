@@ -1,5 +1,6 @@
 #include "platform/RichTextBox.h"
 
+#include "colour/PlatformColour.h"
 #include "platform/Rtf.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
@@ -144,7 +145,7 @@ int RichTextBox::SelColor() const
 void RichTextBox::setSelColor(int v)
 {
     QTextCharFormat f;
-    f.setForeground(QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF));
+    f.setForeground(PlatformColour::toQColor(v));
     mergeFormat(f);
 }
 
@@ -238,7 +239,7 @@ void RichTextBox::LoadFile(const QString& path)
     bool ok = false;
     const QByteArray bytes = TextFiles::readBytes(path, &ok);
     if (!ok)
-        throw RuntimeError(53, QStringLiteral("File not found"), QStringLiteral("RichTextBox.LoadFile"));
+        throw RuntimeError::fileNotFound(QStringLiteral("RichTextBox.LoadFile"));
     // A file that is not rich text is shown as the plain text it is.
     if (Rtf::read(bytes, doc)) {
         setCursor(QTextCursor(doc));
@@ -250,7 +251,7 @@ void RichTextBox::LoadFile(const QString& path)
 void RichTextBox::SaveFile(const QString& path)
 {
     if (!TextFiles::writeBytes(path, Rtf::write(*doc)))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("RichTextBox.SaveFile"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("RichTextBox.SaveFile"));
 }
 
 void RichTextBox::SelPrint(QPagedPaintDevice* device)

@@ -10,6 +10,14 @@ const char* RuntimeError::what() const noexcept
 RuntimeError RuntimeError::invalidCall(const QString& src) { return {5, QStringLiteral("Invalid procedure call or argument"), src}; }
 RuntimeError RuntimeError::overflow(const QString& src) { return {6, QStringLiteral("Overflow"), src}; }
 RuntimeError RuntimeError::typeMismatch(const QString& src) { return {13, QStringLiteral("Type mismatch"), src}; }
+RuntimeError RuntimeError::fileNotFound(const QString& src) { return {53, QStringLiteral("File not found"), src}; }
+RuntimeError RuntimeError::deviceIoError(const QString& src) { return {57, QStringLiteral("Device I/O error"), src}; }
+RuntimeError RuntimeError::fileAlreadyExists(const QString& src) { return {58, QStringLiteral("File already exists"), src}; }
+RuntimeError RuntimeError::pathFileAccess(const QString& src) { return {75, QStringLiteral("Path/File access error"), src}; }
+RuntimeError RuntimeError::objectNotSet(const QString& src)
+{
+    return {91, QStringLiteral("Object variable or With block variable not set"), src};
+}
 RuntimeError RuntimeError::pastEndOfFile(const QString& src) { return {62, QStringLiteral("Input past end of file"), src}; }
 RuntimeError RuntimeError::objectRequired(const QString& src) { return {424, QStringLiteral("Object required"), src}; }
 RuntimeError RuntimeError::invalidProperty(const QString& src) { return {380, QStringLiteral("Invalid property value"), src}; }

@@ -17,7 +17,12 @@ struct RuntimeError : std::exception {
     static RuntimeError invalidCall(const QString& src = {});      // 5
     static RuntimeError overflow(const QString& src = {});         // 6
     static RuntimeError typeMismatch(const QString& src = {});     // 13
+    static RuntimeError fileNotFound(const QString& src = {});     // 53
+    static RuntimeError deviceIoError(const QString& src = {});    // 57
+    static RuntimeError fileAlreadyExists(const QString& src = {}); // 58
     static RuntimeError pastEndOfFile(const QString& src = {});    // 62
+    static RuntimeError pathFileAccess(const QString& src = {});   // 75
+    static RuntimeError objectNotSet(const QString& src = {});     // 91
     static RuntimeError objectRequired(const QString& src = {});   // 424
     static RuntimeError noSuchMember(const QString& member, const QString& src = {}); // 438
     static RuntimeError invalidProperty(const QString& src = {});  // 380

@@ -7,7 +7,7 @@
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/Twips.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 
 #include <QEvent>
 #include <QFrame>
@@ -133,8 +133,8 @@ protected:
     bool eventFilter(QObject*, QEvent* e) override
     {
         if (e->type() == QEvent::Enter)
-            if (frmMain* main = frmMain::loaded(); main && main->Tooltiptext)
-                main->Tooltiptext->setText(text);
+            if (Workspace* main = loadedWorkspace())
+                main->setTooltipText(text);
         return false;
     }
 

@@ -1,6 +1,6 @@
 #include "report/frmReport.h"
 
-#include "documents/CodeDocumentWindow.h"
+#include "colour/PlatformColour.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
@@ -8,7 +8,6 @@
 #include "platform/Prompts.h"
 #include "platform/Twips.h"
 #include "report/ReportEngine.h"
-#include "shell/Main.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -29,8 +28,6 @@ using Look::named;
 
 const QString initialDetails = QStringLiteral("Details About : ");
 
-// The platform colour value: red in the low byte.
-int platformColour(const QColor& c) { return c.red() | (c.green() << 8) | (c.blue() << 16); }
 
 QIcon rowIcon(bool passed)
 {
@@ -43,15 +40,6 @@ struct WaitCursor {
     WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
 };
-}
-
-void registerReportForms()
-{
-    Forms::registerFactory(QStringLiteral("frmReport"), [] { return static_cast<QWidget*>(new frmReport); });
-    CodeDocumentWindow::openReport = [](const QString& text) {
-        auto* report = static_cast<frmReport*>(Forms::get(QStringLiteral("frmReport")));
-        report->CodeMax1->setText(text);
-    };
 }
 
 frmReport::frmReport(QWidget* parent) : QDialog(parent)
@@ -134,10 +122,10 @@ void frmReport::Form_Load()
     QPalette pal = palette();
     pal.setColor(QPalette::Window, Look::heading);
     setPalette(pal);
-    const int blue = platformColour(Look::heading);
+    const int blue = PlatformColour::fromQColor(Look::heading);
     CodeMax1->setColour(CodeMax::LineNumberBackColour, blue);
     CodeMax1->setColour(CodeMax::LeftMarginColour, blue);
-    CodeMax1->setColour(CodeMax::LineNumberColour, platformColour(Qt::white));
+    CodeMax1->setColour(CodeMax::LineNumberColour, PlatformColour::fromQColor(Qt::white));
     clearFlex(QStringLiteral("Search Value ..."));
 }
 

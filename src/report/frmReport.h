@@ -37,4 +37,4 @@ private:
 };
 
 // Registers frmReport and lets web page windows hand it their text.
-void registerReportForms();
+

@@ -3,6 +3,7 @@
 #include "platform/App.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "services/Settings.h"
 #include "shell/frmMain.h"
 
 #include <QDir>
@@ -24,9 +25,6 @@ AppProperties::AppProperties(QWidget* parent) : QDialog(parent)
     Bar->setValue(0);
     layout->addWidget(Label1);
     layout->addWidget(Bar);
-    const QString home = QDir::homePath();
-    folders.openDir = folders.openFileDir = folders.saveDir = folders.saveFileDir = home;
-    folders.openDrive = folders.saveDrive = QDir::rootPath();
 }
 
 void AppProperties::SaveProperties()
@@ -39,9 +37,9 @@ void AppProperties::SaveProperties()
     Bar->setValue(Bar->value() + 1);  // the save dialog's three values
     frmMain* main = frmMain::instance();
     Bar->setValue(Bar->value() + 1);  // the two widths
-    const QString text = PropertiesFile::text(folders, main->SideholderWidth(), main->RightHolderWidth());
+    const QString text = PropertiesFile::text(Settings::folders(), main->SideholderWidth(), main->RightHolderWidth());
     if (!TextFiles::writeText(path, text))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("SaveProperties"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("SaveProperties"));
     Bar->setValue(Bar->value() + 1);
     Label1->setText(QStringLiteral("Status :: Saved"));
 }
@@ -60,6 +58,7 @@ void AppProperties::LoadProperties()
         if (!value.isEmpty() && QDir(value).exists())
             target = value;
     };
+    PropertiesRecord& folders = Settings::folders();
     keep(folders.openDir, r.openDir);
     keep(folders.openDrive, r.openDrive);
     keep(folders.openFileDir, r.openFileDir);

@@ -1,6 +1,6 @@
 #pragma once
 #include "platform/Forms.h"
-#include "shell/PropertiesFile.h"
+#include "services/PropertiesFile.h"
 
 #include <QDialog>
 
@@ -17,10 +17,6 @@ public:
     void SaveProperties();
     // Runs with every error ignored, statement by statement.
     void LoadProperties();
-
-    // The open and save dialogs' folders, lines 1 to 6. The open and save windows take them
-    // from here when they load and give them back when they change.
-    PropertiesRecord folders;
 
     QLabel* Label1 = nullptr;
     QProgressBar* Bar = nullptr;

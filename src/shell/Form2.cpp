@@ -2,7 +2,7 @@
 
 #include "platform/CheckValue.h"
 #include "platform/Look.h"
-#include "shell/Options.h"
+#include "services/Settings.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>
@@ -15,4 +15,4 @@ Form2::Form2(QWidget* parent) : QDialog(parent)
     layout->addWidget(Check3);
 }
 
-void Form2::Form_Load() { setCheckValue(Check3, checkValue(form<Options>()->CSS)); }
+void Form2::Form_Load() { setCheckValue(Check3, Settings::details().CSS); }

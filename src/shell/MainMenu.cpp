@@ -3,6 +3,7 @@
 #include "platform/EventProcedure.h"
 #include "platform/Forms.h"
 #include "platform/Look.h"
+#include "services/Commands.h"
 #include "shell/MenuCommands.h"
 #include "shell/MenuTable.h"
 #include "shell/frmMain.h"
@@ -71,8 +72,7 @@ bool menuKeyRuns(const QString& key)
 {
     if (const MenuEntry* e = menuEntry(key); e && !e->enabled)
         return false;
-    const QString formName = menuFormFor(key);
-    return formName.isEmpty() || Forms::hasFactory(formName);
+    return Commands::available(key);
 }
 
 QMenuBar* buildMainMenu(QWidget* parent)

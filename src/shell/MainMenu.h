@@ -15,6 +15,6 @@ QIcon LoadMenuIcon(const QString& name);
 // disabled, as are the items the table disables.
 QMenuBar* buildMainMenu(QWidget* parent);
 
-// Whether the dispatcher may run a key: its item is enabled and, for a key that shows a
-// window, that window exists in this build.
+// Whether the dispatcher may run a key: its item is enabled and the key does something in this
+// build (a branch of its own, or a window that exists).
 bool menuKeyRuns(const QString& key);

@@ -12,8 +12,8 @@
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/Main.h"
-#include "shell/Options.h"
+#include "services/Commands.h"
+#include "services/Settings.h"
 #include "shell/frmMain.h"
 
 #include <QClipboard>
@@ -81,66 +81,6 @@ constexpr Snippet snippets[] = {
     {"Span", "<span><!-- Insert Text --></span>", false},
 };
 
-// The keys that show a window, and the window's name.
-constexpr std::pair<const char*, const char*> formKeys[] = {
-    {"Site Managment", "SiteManagment"},
-    {"Quick Note", "Quick"},
-    {"CSS Document", "frmCSSCreate"},
-    {"From Files", "Openform"},
-    {"From Templates", "Templates"},
-    {"From Note's", "Quick"},
-    {"From Internet", "sourcepage"},
-    {"Create FTP Profile's", "ftpUsers"},
-    {"Velloro Templates", "Templates"},
-    {"Properties", "PProperties"},
-    {"Quick Bar", "sidebar"},
-    {"Text", "Textinput"},
-    {"Image", "imageform"},
-    {"Email", "emailform"},
-    {"Marquee", "marqueeform"},
-    {"Script", "scriptform"},
-    {"Hyperlink", "Hyperlink1"},
-    {"Horizontal Line", "lineform"},
-    {"Table Wizard", "TableWizard"},
-    {"CSV Table Wizard", "CSVWizard"},
-    {"Table", "Tableform"},
-    {"Colour Finder", "cfinderform"},
-    {"Hyperlink Drop Down Menu", "dropmenu1"},
-    {"External Window Script", "externalwindow"},
-    {"External Style Sheet", "CSSform"},
-    {"Scrolling TextBox", "Scrolltextbox"},
-    {"Drop Menu", "dropmenu2"},
-    {"Insert Sound", "Media"},
-    {"Insert Movie", "Media"},
-    {"Insert Object", "Object"},
-    {"Insert Java Applet", "JavaApplet"},
-    {"Insert RealAudio", "RealAudio"},
-    {"Insert Text", "Textinput"},
-    {"Insert Tabbed Text", "bulletform"},
-    {"Format Main", "Fontform"},
-    {"Program Options", "Options"},
-    {"Page Properties", "PProperties"},
-    {"Folder Sort1", "Folders"},
-    {"CheckTags", "frmReport"},
-    {"Create External Stlye Sheet", "CSSCREATE"},
-    {"Create ScrollBar Color Code", "frmscrollbar"},
-    {"Image Map Generator", "FormDesign"},
-    {"Index Picture Generator", "GifLoader"},
-    {"Style Link Wizard", "StyleLink"},
-    {"Colour Finder1", "cfinderform"},
-    {"Quick Bar1", "sidebar"},
-    {"Contents", "HelpSystem"},
-    {"Send Feedback", "FeedBack"},
-    {"About", "AboutFORM"},
-    {"Check Version", "frmUpdate"},
-    {"Main New Window", "Startup"},
-    {"Find + Replace", "findform"},
-    {"GoTo Line", "frmgoto"},
-    // Windows reached through a file chooser first.
-    {"Insert .CSV File", "CSVWizard"},
-    {"Insert TAB File", "CSVWizard"},
-};
-
 // The editor commands by number.
 constexpr std::pair<const char*, int> editorKeys[] = {
     {"Select All", CodeMax::SelectAll},   {"Delete Current Line", CodeMax::DeleteLine},
@@ -149,12 +89,7 @@ constexpr std::pair<const char*, int> editorKeys[] = {
 };
 
 
-bool isNotepad(DocumentWindow* doc) { return doc->Tag() == QLatin1String("Pad"); }
-
-void add(const char* key, frmMain::Command command)
-{
-    frmMain::registerCommand(QString::fromUtf8(key), std::move(command));
-}
+void add(const char* key, Commands::Command command) { Commands::add(QString::fromUtf8(key), std::move(command)); }
 
 QString today() { return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat); }
 QString now() { return QTime::currentTime().toString(QStringLiteral("hh:mm:ss")); }
@@ -164,7 +99,7 @@ void registerSnippets()
     for (const Snippet& s : snippets) {
         const bool keep = s.keepSelected;
         const QString key = QString::fromUtf8(s.key);
-        frmMain::registerCommand(key, [key, keep] {
+        Commands::add(key, [key, keep] {
             if (ActiveIsNotepad())
                 return;
             if (keep)
@@ -175,7 +110,7 @@ void registerSnippets()
     }
     for (const char* key : {"Add Time", "Add Date", "Last Updated"}) {
         const QString k = QString::fromUtf8(key);
-        frmMain::registerCommand(k, [k] {
+        Commands::add(k, [k] {
             if (ActiveIsNotepad())
                 return;
             InsertAtCaret(menuSnippet(k));
@@ -185,16 +120,9 @@ void registerSnippets()
 
 void registerForms()
 {
-    for (const auto& [key, name] : formKeys) {
-        const QString k = QString::fromUtf8(key);
-        if (frmMain::hasCommand(k))
-            continue;  // a branch of its own, registered by its window's library
-        const QString formName = QString::fromUtf8(name);
-        frmMain::registerCommand(k, [formName] { showForm(formName); });
-    }
     // "Insert Text" and "Insert Tabbed Text" send the notepad user back to the page itself.
     for (const char* key : {"Insert Text", "Insert Tabbed Text"}) {
-        const QString formName = menuFormFor(QString::fromUtf8(key));
+        const QString formName = Commands::windowOf(QString::fromUtf8(key));
         add(key, [formName] {
             if (RedirectInNotepad())
                 return;
@@ -222,7 +150,7 @@ void registerEditing()
     add("Redo", [] { ActiveDocument()->CodeMax1()->redo(); });
     add("Cut", [] {
         DocumentWindow* doc = ActiveDocument();
-        if (isNotepad(doc)) {
+        if (doc->isNotepad()) {
             RichTextBox* box = doc->RichTextBox1();
             QGuiApplication::clipboard()->setText(box->SelText());
             box->setSelText(QString());
@@ -272,7 +200,7 @@ void registerMacros()
 {
     add("Record Macro", [] { recordMacro(); });
     for (int i = 1; i <= 10; ++i)
-        frmMain::registerCommand(QStringLiteral("PlayM%1").arg(i),
+        Commands::add(QStringLiteral("PlayM%1").arg(i),
                                  [i] { ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::PlayMacro1 + i - 1); });
 }
 
@@ -280,7 +208,7 @@ void registerMacros()
 void toggleView(bool (CodeMax::*get)() const, void (CodeMax::*set)(bool))
 {
     DocumentWindow* doc = ActiveDocument();
-    if (isNotepad(doc)) {
+    if (doc->isNotepad()) {
         MsgBox(QStringLiteral("Not supported for the notepad"));
         return;
     }
@@ -300,15 +228,14 @@ void registerView()
     add("Preview in Velloro", [] {
         auto* doc = qobject_cast<CodeDocumentWindow*>(ActiveDocument());
         if (!doc)
-            throw RuntimeError(438, QStringLiteral("Object doesn't support this property or method"),
-                               QStringLiteral("WebBrowser1"));
+            throw RuntimeError::noSuchMember(QStringLiteral("WebBrowser1"));
         doc->writeAndShowPreview(previewFile());
     });
     add("Preview .html Files In Explorer", [] {
         const QString text = ActiveDocument()->CodeMax1()->text();
         // A copy that could not be written would show an older page, or none.
         if (!TextFiles::writeText(previewFile(), text))
-            throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("Preview .html Files In Explorer"));
+            throw RuntimeError::pathFileAccess(QStringLiteral("Preview .html Files In Explorer"));
         Desktop::openUrl(QUrl::fromLocalFile(previewFile()));
     });
     add("Open in Default App", [] {
@@ -359,7 +286,7 @@ void registerFileAndTools()
     });
     for (const char* key : {"EasyRGB", "Developerfusion", "MSDN", "Velloro Online"}) {
         const QString k = QString::fromUtf8(key);
-        frmMain::registerCommand(k, [k] { Desktop::openUrl(QUrl(onlineAddress(k))); });
+        Commands::add(k, [k] { Desktop::openUrl(QUrl(onlineAddress(k))); });
     }
 }
 
@@ -378,14 +305,6 @@ QString fontTag(const QString& attribute, const QString& value)
     return crlf + QStringLiteral("<font ") + attribute + QStringLiteral("=\"") + value +
            QStringLiteral("\">Enter Text Here</font>") + crlf;
 }
-}
-
-QString menuFormFor(const QString& key)
-{
-    for (const auto& [k, name] : formKeys)
-        if (key == QLatin1String(k))
-            return QString::fromUtf8(name);
-    return {};
 }
 
 QString menuSnippet(const QString& key)
@@ -421,7 +340,7 @@ void applyFontSize(const QString& chosen)
         return;
     const QChar digit = chosen.at(0);
     DocumentWindow* doc = ActiveDocument();
-    if (isNotepad(doc)) {
+    if (doc->isNotepad()) {
         // The size digits of the font tag in points.
         static const int points[] = {8, 10, 12, 14, 18, 24, 36};
         const int d = digit.digitValue();
@@ -438,7 +357,7 @@ void applyFontFace(const QString& face)
     if (face.isEmpty())
         return;
     DocumentWindow* doc = ActiveDocument();
-    if (isNotepad(doc)) {
+    if (doc->isNotepad()) {
         doc->RichTextBox1()->setSelFontName(face);
         return;
     }
@@ -450,9 +369,9 @@ void insertHeading(int level)
 {
     if (level < 1 || level > 6 || ActiveIsNotepad())
         return;
-    Options* options = form<Options>();
-    const QString face = options->HeadingFont[level - 1]->text();
-    const QString size = options->HeadingSize[level - 1]->text();
+    const DetailsRecord& settings = Settings::details();
+    const QString face = settings.HeadingFont[level - 1];
+    const QString size = settings.HeadingSize[level - 1];
     const QString h = QString::number(level);
     ActiveDocument()->CodeMax1()->setFocus();
     InsertAtCaret(crlf + QStringLiteral("<h") + h + QStringLiteral("><font face=\"") + face +

@@ -4,10 +4,6 @@
 // The branches of the main menu's dispatcher, registered under their keys.
 void registerMenuCommands();
 
-// The window a "shows ..." key opens, or "" for keys of another kind. A key whose window this
-// build does not have is shown disabled by the menu.
-QString menuFormFor(const QString& key);
-
 // A snippet key's fragment as it goes in at the caret, line ends included ("" when the key
 // inserts nothing). Time and date are today's.
 QString menuSnippet(const QString& key);

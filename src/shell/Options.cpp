@@ -1,14 +1,17 @@
 #include "shell/Options.h"
 
 #include "platform/App.h"
+#include "platform/ControlChanges.h"
+#include "services/Settings.h"
 #include "platform/CheckValue.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "shell/ColourSwatch.h"
-#include "shell/Main.h"
+#include "colour/ColourSwatch.h"
+#include "services/Commands.h"
+#include "shell/modMain.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
 
@@ -44,6 +47,8 @@ Options::Options(QWidget* parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("Options"));
     resize(640, 430);
     buildPages();
+    // The controls are the settings; the rest of the program reads them as values.
+    onAnyControlChange(this, [this] { Settings::setDetails(values()); });
 }
 
 void Options::buildPages()
@@ -367,6 +372,7 @@ void Options::setValues(const DetailsRecord& r)
     txtSaveEx->setText(r.txtSaveEx);
     txtOpenEx->setText(r.txtOpenEx);
     setCheckValue(ToolTip, r.ToolTip);
+    Settings::setDetails(values());
 }
 
 void Options::ApplyDetails()
@@ -376,7 +382,7 @@ void Options::ApplyDetails()
     TextFiles::createIfMissing(path);
     QString error;
     if (!TextFiles::writeText(path, DetailsFile::saveText(values()), &error))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("ApplyDetails"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("ApplyDetails"));
     Label31->setText(QStringLiteral("Status :: Saved"));
     hide();
 }
@@ -392,7 +398,7 @@ bool LoadDetails()
     bool ok = false;
     const QByteArray bytes = TextFiles::readBytes(path, &ok);
     if (!ok)
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("LoadDetails"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("LoadDetails"));
     const DetailsRecord r = DetailsFile::parse(TextFiles::decode(bytes));
     form<Options>()->setValues(r);
     frmMain::instance()->setStatusText(1, QStringLiteral("Settings and Options Loaded Succesfully"));
@@ -410,7 +416,7 @@ void ResetDetails()
         sizes[i] = o->HeadingSize[i]->text();
     }
     if (!TextFiles::writeText(path, DetailsFile::resetText(fonts, sizes)))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), QStringLiteral("ResetDetails"));
+        throw RuntimeError::pathFileAccess(QStringLiteral("ResetDetails"));
     MsgBox(QStringLiteral("Settings have been reset, application will needed to be reset. This may be due to first time use of the program."),
            16);
     CloseAllWindows();

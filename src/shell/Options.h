@@ -1,6 +1,6 @@
 #pragma once
 #include "platform/Forms.h"
-#include "shell/DetailsFile.h"
+#include "services/DetailsFile.h"
 
 #include <QDialog>
 #include <array>

@@ -5,10 +5,9 @@
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
-#include "shell/ColourSwatch.h"
-#include "shell/Main.h"
+#include "colour/ColourSwatch.h"
+#include "services/Commands.h"
 #include "shell/Options.h"
-#include "shell/frmMain.h"
 #include "platform/Forms.h"
 
 #include <QCheckBox>
@@ -129,7 +128,7 @@ void Startup::buildTaskList()
                   "Create a framed website from 2 pre-set options with colour and size options.", {},
                   [this] { showFrame(frframe); });
     task("Label6", "Create A Blank Notepad", "Simply create a standard Notepad document.", {}, [this] {
-        frmMain::instance()->MenuClick(QStringLiteral("Quick Notepad"));
+        Commands::click(QStringLiteral("Quick Notepad"));
         hide();
     });
     task("Label31", "Create A New Site Project",
@@ -258,7 +257,7 @@ void Startup::buildSinglePage()
         if (checkValue(CSS) != 0)
             showFrame(CSSFrame);
         else
-            PrepareSoundTag();
+            this->PrepareSoundTag();
     }));
     connect(Command2, &QPushButton::clicked, this, Event([this] { showFrame(frstartup); }));
 }
@@ -301,7 +300,7 @@ void Startup::buildStylePage()
     nav->addWidget(Command13);
     nav->addWidget(Command12);
     v->addLayout(nav);
-    connect(Command12, &QPushButton::clicked, this, Event([] { PrepareSoundTag(); }));
+    connect(Command12, &QPushButton::clicked, this, Event([this] { PrepareSoundTag(); }));
     connect(Command13, &QPushButton::clicked, this, Event([this] { showFrame(frsingle); }));
 }
 
@@ -339,10 +338,7 @@ void Startup::buildFramePage()
         QAction* a = Toolbar1->addAction(Look::menuIcon(QString::fromLatin1(key)), QString::fromLatin1(caption));
         a->setObjectName(QString::fromLatin1(key));
         const QString k = QString::fromLatin1(key);
-        connect(a, &QAction::triggered, this, Event([k] {
-            if (frameGenerator)
-                frameGenerator(k);
-        }));
+        connect(a, &QAction::triggered, this, Event([k] { Commands::run(k); }));
     }
     auto* body = new QHBoxLayout;
     body->addWidget(Toolbar1);
@@ -381,15 +377,53 @@ void Startup::Form_Load()
     }
 }
 
-std::function<void(const QString&)> Startup::frameGenerator;
-
 void Startup::showEvent(QShowEvent* e)
 {
     for (QAction* a : Toolbar1->actions())
-        a->setEnabled(bool(frameGenerator));
+        a->setEnabled(Commands::has(a->objectName()));
     // The window always comes up on the task list, however it was left.
     showFrame(frstartup);
     QDialog::showEvent(e);
+}
+
+PageText::Fields Startup::pageFields() const
+{
+    PageText::Fields f;
+    f.title = title->text();
+    f.Text3 = Text3->text();
+    f.Text4 = Text4->text();
+    f.Text1 = Text1->text();
+    f.Text7 = Text7->text();
+    f.Text8 = Text8->text();
+    f.Text9 = Text9->text();
+    f.Text10 = Text10->text();
+    f.Combo7 = Combo7->currentText();
+    f.Combo8 = Combo8->currentText();
+    f.Combo9 = Combo9->currentText();
+    f.Combo10 = Combo10->currentText();
+    return f;
+}
+
+bool Startup::styledPage() const { return checkValue(CSS) != 0; }
+
+void Startup::GenerateWebPage()
+{
+    ::GenerateWebPage(pageFields(), styledPage());
+    hide();
+    Text1->clear();
+}
+
+void Startup::GenerateSplitPage()
+{
+    ::GenerateSplitPage(pageFields());
+    hide();
+    Text1->clear();
+}
+
+void Startup::PrepareSoundTag()
+{
+    Text1->setText(PageText::soundTag(mlocation->text(), mloop->text(), Text1->text()));
+    GenerateWebPage();
 }
 
 void Startup::Check1_Click()

@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/Forms.h"
+#include "documents/PageText.h"
 
 #include <QDialog>
 #include <functional>
@@ -54,10 +55,20 @@ public:
     void clearHints();
     QList<QLabel*> markers;
 
-    // The frame-set generators by toolbar key ("frame1" columns, "frame2" rows); set by the
-    // site generator. Without them the toolbar's buttons stay disabled.
-    static std::function<void(const QString& key)> frameGenerator;
+    // The frame-set generators run the command of their toolbar key ("frame1" columns,
+    // "frame2" rows); a key without one stays disabled.
     QToolBar* Toolbar1 = nullptr;
+
+    // The fields a new page is made of, and the style sheet tick: the generators take them
+    // from here.
+    PageText::Fields pageFields() const;
+    bool styledPage() const;
+    // The new pages of the wizard and the menu: the page, then this window hides and forgets
+    // its sound tag.
+    void GenerateWebPage();
+    void GenerateSplitPage();
+    // The sound tag from the music fields, then GenerateWebPage.
+    void PrepareSoundTag();
 
 protected:
     void showEvent(QShowEvent* e) override;

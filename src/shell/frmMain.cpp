@@ -6,7 +6,8 @@
 #include "platform/EventProcedure.h"
 #include "platform/Twips.h"
 #include "shell/AboutFORM.h"
-#include "shell/Main.h"
+#include "services/Commands.h"
+#include "shell/modMain.h"
 #include "shell/MainMenu.h"
 #include "shell/Options.h"
 #include "platform/FileControls.h"
@@ -32,12 +33,6 @@
 #include <QVBoxLayout>
 
 namespace {
-QHash<QString, frmMain::Command>& commands()
-{
-    static QHash<QString, frmMain::Command> table;
-    return table;
-}
-
 // Widths of the two holders in their folded and open states.
 constexpr int sideFolded = 475, sideOpen = 3470;
 constexpr int rightFolded = 140, rightOpen = 720;
@@ -210,6 +205,7 @@ void frmMain::addDocument(DocumentWindow* doc)
     doc->show();
     sub->show();
     activate(doc);
+    Q_EMIT DocumentEvents::instance().documentAdded(doc);
 }
 
 void frmMain::activate(DocumentWindow* doc)
@@ -226,28 +222,18 @@ void frmMain::subWindowActivated(QMdiSubWindow* w)
         doc->Form_Activate();
 }
 
-void frmMain::registerCommand(const QString& key, Command command)
-{
-    commands().insert(key, std::move(command));
-}
-
-bool frmMain::hasCommand(const QString& key) { return commands().contains(key); }
-
 void frmMain::MenuClick(const QString& key)
 {
-    const Command c = commands().value(key);
-    if (!c || !menuKeyRuns(key))
-        return;
-    // The handler's error path ends a command quietly (no document, a notepad where a code
-    // editor is wanted); saving says its own words.
-    if (key == QLatin1String("Save") || key == QLatin1String("Save As")) {
-        c();
-        return;
-    }
-    try {
-        c();
-    } catch (const RuntimeError&) {
-    }
+    if (menuKeyRuns(key))
+        Commands::click(key);
+}
+
+void frmMain::setSideholderVisible(bool visible) { Sideholder->setVisible(visible); }
+
+void frmMain::setTooltipText(const QString& text)
+{
+    if (Tooltiptext)
+        Tooltiptext->setText(text);
 }
 
 void frmMain::buildMenu()

@@ -1,9 +1,9 @@
 #pragma once
 #include "platform/Forms.h"
+#include "services/Workspace.h"
 
 #include <QHash>
 #include <QMainWindow>
-#include <functional>
 
 class DirListBox;
 class DocumentWindow;
@@ -27,7 +27,7 @@ QString fileSizeText(qint64 bytes);
 QString patternOf(const QString& fileTypeEntry);
 
 // The main window: the parent of every document window and the source of the commands.
-class frmMain : public QMainWindow, public Form {
+class frmMain : public QMainWindow, public Form, public Workspace {
     Q_OBJECT
 public:
     explicit frmMain(QWidget* parent = nullptr);
@@ -42,24 +42,26 @@ public:
 
     // The active child window, or null when there is none. Works while the main window is
     // not focused.
-    DocumentWindow* ActiveForm() const;
+    DocumentWindow* ActiveForm() const override;
     QList<DocumentWindow*> documents() const;
-    // Makes a new document window a child, shows it and makes it the active one.
-    void addDocument(DocumentWindow* doc);
-    void activate(DocumentWindow* doc);
+    // Makes a new document window a child, shows it and makes it the active one, and tells
+    // the features of it.
+    void addDocument(DocumentWindow* doc) override;
+    void activate(DocumentWindow* doc) override;
 
-    // The menu's dispatcher: runs the branch of a key; an unknown key does nothing.
+    // The menu's dispatcher: runs the branch of a key as a click on its item does; an unknown
+    // key, or one whose item is disabled, does nothing.
     void MenuClick(const QString& key);
-    using Command = std::function<void()>;
-    static void registerCommand(const QString& key, Command command);
-    static bool hasCommand(const QString& key);
 
     // Status bar panels 1 (messages), 2 ("Lines: "), 3 ("Chr: ").
-    void setStatusText(int panel, const QString& text);
+    void setStatusText(int panel, const QString& text) override;
     QString statusText(int panel) const;
 
     // The caption: the version label, then " [ ", the name, " ]".
-    void setDocumentCaption(const QString& name);
+    void setDocumentCaption(const QString& name) override;
+    void setCaption(const QString& caption) override { setWindowTitle(caption); }
+    void setSideholderVisible(bool visible) override;
+    void setTooltipText(const QString& text) override;
 
     // The two side holders; widths in twips, each with two states, folded and open.
     int SideholderWidth() const { return sideWidth; }
@@ -123,7 +125,6 @@ private:
     QFrame* buildProjectPanel();
     void buildButtonBars();
     void buildRightBar();
-    void fillLists();
     void hint(QWidget* w, const QString& line);
     QHash<QObject*, QString> hints;
     class QStackedLayout* panelStack = nullptr;

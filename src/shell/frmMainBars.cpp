@@ -1,7 +1,5 @@
 // The main window's button bars and right bar: each button is the body of a menu key, or one
 // of the few bar-only commands.
-#include "shell/frmMain.h"
-
 #include "documents/DocumentWindow.h"
 #include "documents/Insertion.h"
 #include "documents/OpenSave.h"
@@ -11,9 +9,10 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
+#include "services/Commands.h"
 #include "shell/MainMenu.h"
-#include "shell/Main.h"
 #include "shell/MenuCommands.h"
+#include "shell/frmMain.h"
 
 #include <QComboBox>
 #include <QToolBar>
@@ -39,7 +38,8 @@ constexpr BarButton fileBar[] = {
 constexpr BarButton editBar[] = {
     {22, "Undo", ""},  {23, "Redo", "Redo"},   {24, "Cut", "Cut"},
     {25, "Copy", "Copy"}, {26, "Paste", "Paste"}, {28, "Find + Replace", ""},
-    {29, "GoTo Line", "GoTo Line"},
+    {29, "GoTo Line", "GoTo Line"}, {59, "Previous Line", "Previous Line"}, {60, "Next Line", "Next Line"},
+    {58, "Record Macro", "Record Macro"},
 };
 constexpr BarButton formatBar[] = {
     {8, "Bold", "Bold"},           {9, "Italic", "Italic"},   {10, "Underline", "Underline"},
@@ -89,7 +89,7 @@ bool refuseInNotepad()
 void indent(bool in)
 {
     DocumentWindow* doc = ActiveDocument();
-    if (doc->Tag() == QLatin1String("Pad")) {
+    if (doc->isNotepad()) {
         RichTextBox* box = doc->RichTextBox1();
         box->setSelIndent(qMax(0, box->SelIndent() + (in ? 360 : -360)));
         return;
@@ -97,35 +97,26 @@ void indent(bool in)
     InsertAtCaret(crlf + (in ? QStringLiteral("<blockquote>") : QStringLiteral("</blockquote>")) + crlf);
 }
 
-// Runs a bar command the way the menu's handler does: a missing document ends it quietly.
-void quietly(const std::function<void()>& body)
-{
-    try {
-        body();
-    } catch (const RuntimeError&) {
-    }
-}
-
 std::function<void()> barOnlyCommand(int number)
 {
     switch (number) {
     case 4: return [] { ToolbarSave(); };
-    case 22: return [] { quietly([] { if (!refuseInNotepad()) ActiveDocument()->CodeMax1()->undo(); }); };
+    case 22: return [] { OnErrorExit([] { if (!refuseInNotepad()) ActiveDocument()->CodeMax1()->undo(); }); };
     case 28: return [] {
-        if (!frmMain::instance()->ActiveForm()) {
+        if (!ActiveForm()) {
             MsgBox(QStringLiteral("You need an active form to use the find facility"));
             return;
         }
         showForm(QStringLiteral("findform"));
     };
-    case 18: return [] { quietly([] {
+    case 18: return [] { OnErrorExit([] {
         if (ActiveIsNotepad())
             return;
         InsertAtCaret(crlf + QStringLiteral("<p><font color=Black size=3>") + crlf + QStringLiteral("<ol>") + crlf +
                       QStringLiteral("<li> ENTER TEXT HERE </li>") + crlf + QStringLiteral("</ol></font></p>") + crlf);
     }); };
-    case 19: return [] { quietly([] { indent(false); }); };
-    case 20: return [] { quietly([] { indent(true); }); };
+    case 19: return [] { OnErrorExit([] { indent(false); }); };
+    case 20: return [] { OnErrorExit([] { indent(true); }); };
     default: return {};
     }
 }
@@ -185,9 +176,9 @@ void frmMain::buildButtonBars()
     Picture[2]->addWidget(Combo4);
     Picture[2]->addWidget(Combo1);
     Picture[2]->addWidget(Combo2);
-    connect(Combo1, &QComboBox::textActivated, this, Event([](const QString& t) { quietly([&] { applyFontSize(t); }); }));
-    connect(Combo2, &QComboBox::textActivated, this, Event([](const QString& t) { quietly([&] { applyFontFace(t); }); }));
-    connect(Combo4, &QComboBox::activated, this, Event([](int index) { quietly([&] { insertHeading(index + 1); }); }));
+    connect(Combo1, &QComboBox::textActivated, this, Event([](const QString& t) { OnErrorExit([&] { applyFontSize(t); }); }));
+    connect(Combo2, &QComboBox::textActivated, this, Event([](const QString& t) { OnErrorExit([&] { applyFontFace(t); }); }));
+    connect(Combo4, &QComboBox::activated, this, Event([](int index) { OnErrorExit([&] { insertHeading(index + 1); }); }));
 
     alignCoolBar(Qt::TopToolBarArea);
 }
@@ -223,7 +214,7 @@ void frmMain::buildRightBar()
         if (!key.isEmpty())
             b->setEnabled(menuKeyRuns(key));
         connect(b, &QToolButton::clicked, this, Event([this, fragment, key] {
-            quietly([&] {
+            OnErrorExit([&] {
                 if (refuseInNotepad())
                     return;
                 if (key.isEmpty())

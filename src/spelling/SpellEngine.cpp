@@ -176,12 +176,12 @@ void LoadWordList(const QString& path)
     if (!QFileInfo::exists(path) || QFileInfo(path).isDir()) {
         if (!QFileInfo(path).isDir()) {
             state().DictionaryMissing = true;
-            throw RuntimeError(53, QStringLiteral("File not found"), engineSource);
+            throw RuntimeError::fileNotFound(engineSource);
         }
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), engineSource);
+        throw RuntimeError::pathFileAccess(engineSource);
     }
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"), engineSource);
+        throw RuntimeError::pathFileAccess(engineSource);
     clsWordTree& tree = *state().WordTree;
     tree.reserveForBytes(file.size());
     // A failing read leaves the words read so far, and they answer the word test.
@@ -196,7 +196,7 @@ void LoadWordList(const QString& path)
         const qint64 want = std::min<qint64>(pieceSize, left);
         const qint64 got = file.read(piece.data(), want);
         if (got != want)
-            throw RuntimeError(62, QStringLiteral("Input past end of file"), engineSource);
+            throw RuntimeError::pastEndOfFile(engineSource);
         reader.piece(piece.constData(), got);
         left -= got;
     }

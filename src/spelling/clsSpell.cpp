@@ -6,7 +6,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
-#include "shell/frmMain.h"
+#include "services/Workspace.h"
 #include "spelling/SpellEngine.h"
 #include "spelling/frmCheck.h"
 
@@ -107,7 +107,7 @@ void clsSpell::Spellcheck(bool fromStart)
     }
     RichTextBox* box = modMain::SpellTextBox();
     if (!box)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"), facadeSource);
+        throw RuntimeError::objectNotSet(facadeSource);
     if (fromStart)
         box->setSelStart(0);
     SpellCheckerForm()->Spellcheck(box);
@@ -161,18 +161,10 @@ void startSpellCheck(notepad* pad)
 
 void SpellCheckActiveDocument()
 {
-    frmMain* main = frmMain::loaded();
-    DocumentWindow* doc = main ? main->ActiveForm() : nullptr;
-    if (doc && doc->Tag() == QLatin1String("Pad"))
+    DocumentWindow* doc = ActiveForm();
+    if (doc && doc->isNotepad())
         doc->startspell();
     else
         MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
                QStringLiteral(":: Notepad Only ::"));
-}
-
-void registerSpellingForms()
-{
-    notepad::spellCheck = [](notepad* pad) { startSpellCheck(pad); };
-    notepad::makeSpellChecker = [](notepad* pad) { spellcheckerOf(pad); };
-    frmMain::registerCommand(QStringLiteral("Spell Checker"), [] { SpellCheckActiveDocument(); });
 }

@@ -70,5 +70,3 @@ void startSpellCheck(notepad* pad);
 void SpellCheckActiveDocument();
 // The checker a notepad holds, made on first use.
 clsSpell* spellcheckerOf(notepad* pad);
-// Sets the notepad's hook and the main menu's command.
-void registerSpellingForms();

@@ -198,7 +198,7 @@ void frmCheck::Spellcheck(RichTextBox* control)
     ensureLoaded();
     textControl = control;
     if (!textControl)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"));
+        throw RuntimeError::objectNotSet();
     wrapPosition = textControl->SelStart() - 1;
     endPosition = -1;
     cmdIgnore_Click();
@@ -223,7 +223,7 @@ bool frmCheck::CheckNextWord(int& start, int& end)
 {
     try {
         if (!textControl)
-            throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"));
+            throw RuntimeError::objectNotSet();
         const QString text = controlText();
         const Spelling::WordStop stop = Spelling::checkNextWord(
             walker, text, start, end,
@@ -263,7 +263,7 @@ bool frmCheck::CheckNextWord(int& start, int& end)
 RichTextBox* frmCheck::control() const
 {
     if (!textControl)
-        throw RuntimeError(91, QStringLiteral("Object variable or With block variable not set"));
+        throw RuntimeError::objectNotSet();
     return textControl;
 }
 

@@ -1,3 +1,4 @@
+#include "common/TestSupport.h"
 #include "platform/Application.h"
 #include "platform/Desktop.h"
 #include "platform/ScriptedPrompts.h"
@@ -18,13 +19,6 @@ int main(int argc, char** argv)
     VelloroApplication app(argc, argv);
     ScriptedPrompts::setFailureHandler([](const QString& msg) { ADD_FAILURE() << msg.toStdString(); });
     // Nothing a test does may start a browser, a file manager or another program.
-    Desktop::setHandler({[](const QUrl& url) {
-                             ADD_FAILURE() << "unexpected desktop open: " << url.toString().toStdString();
-                             return false;
-                         },
-                         [](const QString& program, const QStringList&) {
-                             ADD_FAILURE() << "unexpected program start: " << program.toStdString();
-                             return false;
-                         }});
+    refuseDesktop();
     return RUN_ALL_TESTS();
 }

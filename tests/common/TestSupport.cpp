@@ -1,13 +1,15 @@
 #include "common/TestSupport.h"
 
+#include "app/Main.h"
 #include "documents/frmDocument.h"
 #include "documents/notepad.h"
+#include "platform/App.h"
 #include "platform/CodeMax.h"
+#include "platform/Desktop.h"
+#include "platform/Forms.h"
 #include "platform/RichTextBox.h"
 #include "shell/frmMain.h"
-#include "platform/App.h"
-#include "platform/Forms.h"
-#include "shell/Main.h"
+#include "shell/modMain.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,6 +19,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <QThread>
+#include <QUrl>
 
 namespace {
 void copyTree(const QString& from, const QString& to)
@@ -130,3 +133,29 @@ void saveShot(QWidget* w, const QString& name)
         shot = w->grab();
     shot.save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
 }
+
+void refuseDesktop()
+{
+    Desktop::setHandler({[](const QUrl& url) {
+                             ADD_FAILURE() << "unexpected desktop open: " << url.toString().toStdString();
+                             return false;
+                         },
+                         [](const QString& program, const QStringList&) {
+                             ADD_FAILURE() << "unexpected program start: " << program.toStdString();
+                             return false;
+                         }});
+}
+
+DesktopRecorder::DesktopRecorder()
+{
+    Desktop::setHandler({[this](const QUrl& url) {
+                             opened << (url.isLocalFile() ? url.toLocalFile() : url.toString());
+                             return true;
+                         },
+                         [](const QString& program, const QStringList&) {
+                             ADD_FAILURE() << "unexpected program start: " << program.toStdString();
+                             return false;
+                         }});
+}
+
+DesktopRecorder::~DesktopRecorder() { refuseDesktop(); }

@@ -40,6 +40,18 @@ protected:
     ScriptedPrompts prompts;
 };
 
+// Makes every hand-over to the desktop (an address, a file, a program) fail the test: nothing a
+// test does may start a browser, a file manager or another program.
+void refuseDesktop();
+
+// While it lives, the addresses handed to the desktop are recorded instead (and count as opened).
+class DesktopRecorder {
+public:
+    DesktopRecorder();
+    ~DesktopRecorder();
+    QStringList opened;
+};
+
 // With VELLORO_SHOT_DIR set (run under a real display), saves a picture of the widget there as
 // <name>.png, so a person can look at what a test built.
 void saveShot(QWidget* w, const QString& name);

@@ -8,7 +8,8 @@
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "platform/WebBrowser.h"
-#include "shell/Main.h"
+#include "app/Main.h"
+#include "shell/modMain.h"
 #include "shell/frmMain.h"
 
 #include <QComboBox>

@@ -80,7 +80,7 @@ TEST_F(GeneratorTest, LoopZeroPlaysForever)
 {
     startup->mlocation->setText(QStringLiteral("tune.mp3"));
     startup->mloop->setText(QStringLiteral("0"));
-    PrepareSoundTag();
+    startup->PrepareSoundTag();
     EXPECT_TRUE(main->ActiveForm()->CodeMax1()->text().contains(QStringLiteral("\r\n<bgsound src=\"tune.mp3\" loop=-1>\r\n</head> ")));
 }
 

@@ -18,9 +18,8 @@ protected:
         if (!server->start(&why))
             GTEST_SKIP() << why.toStdString();
         engine.setPort(server->port());
-        FtpEngine::showFolder = [this](const QString& folder) { shownFolders << folder; };
+        QObject::connect(&engine, &FtpEngine::retrieved, [this](const QString& folder) { shownFolders << folder; });
     }
-    void TearDown() override { FtpEngine::showFolder = nullptr; }
 
     bool login()
     {

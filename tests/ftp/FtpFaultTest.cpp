@@ -19,12 +19,11 @@ protected:
     void SetUp() override
     {
         engine.setPort(fake.port());
-        FtpEngine::showFolder = [this](const QString& f) { shown << f; };
+        QObject::connect(&engine, &FtpEngine::retrieved, [this](const QString& f) { shown << f; });
     }
     void TearDown() override
     {
         EXPECT_EQ(engine.activeWaits(), 0);
-        FtpEngine::showFolder = nullptr;
     }
     // Connects under a guard that cuts a login still waiting at the deadline.
     bool connectGuarded(int deadlineMs = 10000)

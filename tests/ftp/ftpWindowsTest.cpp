@@ -40,12 +40,10 @@ protected:
     void SetUp() override
     {
         startWithoutPage();
-        FtpEngine::showFolder = [](const QString&) {};
     }
     void TearDown() override
     {
         ftpadvanced::setPortForTesting(21);
-        FtpEngine::showFolder = [](const QString&) {};  // drop any hook that points into the test
         WindowTest::TearDown();
     }
     ftpnormal* upload() { return static_cast<ftpnormal*>(Forms::get(QStringLiteral("ftpnormal"))); }
@@ -527,8 +525,8 @@ TEST_F(FtpWindowServerTest, ClosingTheWindowFreesAWaitingLogin)
 TEST_F(FtpWindowServerTest, ViewFilesAndRetrieveFromTheAdvancedWindow)
 {
     server.writeFile(QStringLiteral("remote.htm"), "remote body");
-    QStringList shown;
-    FtpEngine::showFolder = [&](const QString& f) { shown << f; };
+    DesktopRecorder desktop;
+    const QStringList& shown = desktop.opened;
     QFile::remove(FtpEngine::downloadPath());
     connectAs(server.user(), server.password());
     ASSERT_TRUE(advanced()->engine()->isConnected());

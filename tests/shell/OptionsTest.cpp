@@ -3,7 +3,7 @@
 
 #include "platform/CheckValue.h"
 #include "shell/AppProperties.h"
-#include "shell/ColourSwatch.h"
+#include "colour/ColourSwatch.h"
 #include "shell/Options.h"
 #include "shell/frmMain.h"
 

@@ -6,7 +6,8 @@
 #include "platform/CheckValue.h"
 #include "platform/CodeMax.h"
 #include "platform/Forms.h"
-#include "shell/Main.h"
+#include "app/Main.h"
+#include "shell/modMain.h"
 #include "shell/Options.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
@@ -19,7 +20,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "shell/ColourSwatch.h"
+#include "colour/ColourSwatch.h"
 
 namespace {
 const QByteArray resetFile =

@@ -1,12 +1,10 @@
 #pragma once
-#include <QString>
 
-// The whole start-up sequence, without entering the event loop.
-void Main();
 // The long step behind the splash, run by the main window's load.
 void InitialiseApplication();
 // Shut-down: every form from the last down, each document asking its save question. Stops
 // when a window refuses to close; false then.
 bool CloseAllWindows();
-// Shows a single window by name.
-void showForm(const QString& name);
+// The shell's windows and the menu's own branches, under their names and keys. Runs after the
+// features have registered theirs: a key a feature claimed keeps the feature's branch.
+void registerShell();

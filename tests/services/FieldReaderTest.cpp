@@ -1,7 +1,7 @@
 // The sequential field reader of the settings files and its conversions.
 #include "common/QtPrinters.h"
 #include "platform/RuntimeError.h"
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

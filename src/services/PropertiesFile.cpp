@@ -1,7 +1,7 @@
-#include "shell/PropertiesFile.h"
+#include "services/PropertiesFile.h"
 
 #include "platform/RuntimeError.h"
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 namespace PropertiesFile {
 

@@ -1,6 +1,6 @@
 // \Options\Properties.dat: the dialogs' last folders and the two panel widths.
 #include "common/QtPrinters.h"
-#include "shell/PropertiesFile.h"
+#include "services/PropertiesFile.h"
 
 #include <gtest/gtest.h>
 

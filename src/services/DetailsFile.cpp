@@ -1,7 +1,7 @@
-#include "shell/DetailsFile.h"
+#include "services/DetailsFile.h"
 
 #include "platform/RuntimeError.h"
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 #include <QStringList>
 

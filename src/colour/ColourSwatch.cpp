@@ -1,4 +1,10 @@
-#include "shell/ColourSwatch.h"
+#include "colour/ColourSwatch.h"
+
+#include "colour/ColourText.h"
+#include "colour/PlatformColour.h"
+#include "platform/Prompts.h"
+
+#include <QLineEdit>
 
 ColourSwatch::ColourSwatch(const QString& name, QWidget* parent) : QFrame(parent)
 {
@@ -13,14 +19,9 @@ void ColourSwatch::setBackColor(int c)
 {
     colour = c;
     QPalette p = palette();
-    p.setColor(QPalette::Window, QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF));
+    p.setColor(QPalette::Window, PlatformColour::toQColor(c));
     setPalette(p);
 }
-
-#include "colour/ColourText.h"
-#include "platform/Prompts.h"
-
-#include <QLineEdit>
 
 bool chooseColourInto(QLineEdit* field, ColourSwatch* swatch, bool withQuotes)
 {

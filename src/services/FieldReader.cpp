@@ -1,4 +1,4 @@
-#include "shell/FieldReader.h"
+#include "services/FieldReader.h"
 
 #include "platform/RuntimeError.h"
 

@@ -1,23 +1,21 @@
-#include "shell/Main.h"
+#include "shell/modMain.h"
 
 #include "documents/DocumentWindow.h"
 #include "documents/OpenSave.h"
 #include "documents/PageGenerator.h"
 #include "documents/SyntaxLanguages.h"
-#include "documents/findform.h"
 #include "platform/CheckValue.h"
+#include "platform/FileControls.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
-#include "ftp/ftpnormal.h"
-#include "report/frmReport.h"
-#include "spelling/clsSpell.h"
+#include "services/Commands.h"
+#include "services/Settings.h"
 #include "shell/AboutFORM.h"
 #include "shell/AppProperties.h"
+#include "shell/Form2.h"
 #include "shell/MenuCommands.h"
 #include "shell/Options.h"
-#include "platform/FileControls.h"
-#include "shell/Form2.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -30,29 +28,6 @@
 #include <QLabel>
 
 namespace {
-void registerShellForms()
-{
-    Forms::registerFactory(QStringLiteral("frmSplash"), [] { return new frmSplash; });
-    Forms::registerFactory(QStringLiteral("frmMain"), [] { return new frmMain; });
-    Forms::registerFactory(QStringLiteral("Options"), [] { return new Options; });
-    Forms::registerFactory(QStringLiteral("Startup"), [] { return new Startup; });
-    Forms::registerFactory(QStringLiteral("Form2"), [] { return new Form2; });
-    Forms::registerFactory(QStringLiteral("AboutFORM"), [] { return new AboutFORM; });
-    Forms::registerFactory(QStringLiteral("AppProperties"), [] { return new AppProperties; });
-}
-
-// The menu keys whose branches live in the shell and the page generator.
-void registerShellCommands()
-{
-    frmMain::registerCommand(QStringLiteral("Exit"), [] { CloseAllWindows(); });
-    frmMain::registerCommand(QStringLiteral("Main New Window"), [] { showForm(QStringLiteral("Startup")); });
-    frmMain::registerCommand(QStringLiteral("Quick html Page"), [] { GenerateWebPage(); });
-    frmMain::registerCommand(QStringLiteral("Quick Split html Page"), [] { GenerateSplitPage(); });
-    frmMain::registerCommand(QStringLiteral("Save Layout"), [] { form<AppProperties>()->SaveProperties(); });
-    frmMain::registerCommand(QStringLiteral("Load Layout"), [] { form<AppProperties>()->LoadProperties(); });
-    frmMain::registerCommand(QStringLiteral("About"), [] { showForm(QStringLiteral("AboutFORM")); });
-}
-
 void fillMainLists()
 {
     frmMain* main = frmMain::instance();
@@ -79,14 +54,6 @@ void fillMainLists()
 }
 }
 
-void showForm(const QString& name)
-{
-    QWidget* w = Forms::get(name);
-    w->show();
-    w->raise();
-    w->activateWindow();
-}
-
 void InitialiseApplication()
 {
     frmMain* main = frmMain::instance();
@@ -110,17 +77,17 @@ void InitialiseApplication()
     // The settings; a missing file resets them and ends the program here.
     if (!LoadDetails())
         return;
-    Options* options = form<Options>();
+    const DetailsRecord& settings = Settings::details();
 
     // The start screen takes two fields. Its first touch loads it (and shows it while its
     // tick is set); assigning the tick runs its click handler, which hides it again at 0.
     Startup* startup = form<Startup>();
-    setCheckValue(startup->CSS, checkValue(options->CSS));
-    setCheckValue(startup->Check1, checkValue(options->LNEW));
+    setCheckValue(startup->CSS, settings.CSS);
+    setCheckValue(startup->Check1, settings.LNEW);
 
-    main->Tooltipframe->setVisible(checkValue(options->ToolTip) == 1);
+    main->Tooltipframe->setVisible(settings.ToolTip == 1);
 
-    if (checkValue(options->SFORM) == 1) {
+    if (settings.SFORM == 1) {
         CreateStartupPage();
         ApplyStartWindowState();
     }
@@ -136,49 +103,22 @@ void InitialiseApplication()
     StartupSteps::run(StartupSteps::FileList);
 }
 
-void Main()
+void registerShell()
 {
-    registerShellForms();
-    registerShellCommands();
-    registerFindForms();
-    registerDocumentForms();
-    registerDocumentCommands();
-    registerReportForms();
-    registerSpellingForms();
-    registerFtpForms();
-    // Last: the menu's own branches fill in what the windows above have not claimed.
+    registerForm<frmSplash>();
+    registerForm<frmMain>();
+    registerForm<Options>();
+    registerForm<Startup>();
+    registerForm<Form2>();
+    registerForm<AboutFORM>();
+    registerForm<AppProperties>();
+
+    Commands::add(QStringLiteral("Exit"), [] { CloseAllWindows(); });
+    Commands::add(QStringLiteral("Quick html Page"), [] { form<Startup>()->GenerateWebPage(); });
+    Commands::add(QStringLiteral("Quick Split html Page"), [] { form<Startup>()->GenerateSplitPage(); });
+    Commands::add(QStringLiteral("Save Layout"), [] { form<AppProperties>()->SaveProperties(); });
+    Commands::add(QStringLiteral("Load Layout"), [] { form<AppProperties>()->LoadProperties(); });
     registerMenuCommands();
-
-    try {
-        auto* splash = form<frmSplash>();
-        splash->show();
-        splash->repaint();
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-
-        form<frmMain>();
-        if (QWidget* s = Forms::find(QStringLiteral("frmSplash")))
-            Forms::unload(s);
-        if (Startup* startup = loadedForm<Startup>(); startup && startup->isVisible()) {
-            startup->raise();
-            startup->activateWindow();
-        }
-    } catch (const RuntimeError& e) {
-        // Start-up goes on with whatever was loaded; the status bar says what failed.
-        if (QWidget* s = Forms::find(QStringLiteral("frmSplash")))
-            Forms::unload(s);
-        if (frmMain* main = frmMain::loaded())
-            main->setStatusText(1, QStringLiteral("Start-up stopped: Run-time error '%1': %2 (%3)")
-                                       .arg(e.number)
-                                       .arg(e.description, detailsPath()));
-    }
-
-    // The settings reset has ended the program.
-    frmMain* main = frmMain::loaded();
-    if (!main)
-        return;
-    main->show();
-    if (Startup* startup = loadedForm<Startup>(); startup && startup->isVisible())
-        startup->raise();
 }
 
 bool CloseAllWindows()

@@ -1,7 +1,7 @@
 // \Options\Details.dat: the reset's text, the dialog's save, the load, damaged files.
 #include "common/QtPrinters.h"
 #include "platform/RuntimeError.h"
-#include "shell/DetailsFile.h"
+#include "services/DetailsFile.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

@@ -1,0 +1,3 @@
+#include "reference/Registration.h"
+
+void registerReference() {}

@@ -1,0 +1,16 @@
+#pragma once
+#include "services/DetailsFile.h"
+#include "services/PropertiesFile.h"
+
+// The settings as values. The Options window publishes what its controls hold whenever one
+// changes, and the layout file's reader its folders; every other window reads these values and
+// never the controls themselves.
+namespace Settings {
+// The 29 settings of the Options window (the design values until it has loaded).
+const DetailsRecord& details();
+void setDetails(const DetailsRecord& r);
+
+// The open and save dialogs' folders of \Options\Properties.dat (the user's home folder until
+// the file is read); the dialogs give back the folders they move to.
+PropertiesRecord& folders();
+}

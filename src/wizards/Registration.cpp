@@ -1,0 +1,11 @@
+#include "wizards/Registration.h"
+
+#include "platform/Forms.h"
+#include "wizards/emailform.h"
+#include "wizards/lineform.h"
+
+void registerWizards()
+{
+    registerForm<lineform>();
+    registerForm<emailform>();
+}

@@ -1,0 +1,94 @@
+#include "wizards/WizardDialog.h"
+
+#include "documents/Insertion.h"
+#include "platform/EventProcedure.h"
+#include "platform/Look.h"
+#include "platform/RuntimeError.h"
+
+#include <QFormLayout>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+WizardDialog::WizardDialog(const QString& caption, Refusal refusal, QWidget* parent)
+    : QDialog(parent), refusal(refusal)
+{
+    setWindowTitle(caption);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 8);
+
+    // The header shape, in the heading colour, with the caption in it.
+    banner = Look::named(new QFrame(this), QStringLiteral("Shape2"));
+    banner->setAutoFillBackground(true);
+    QPalette p = banner->palette();
+    p.setColor(QPalette::Window, Look::heading);
+    p.setColor(QPalette::WindowText, Qt::white);
+    banner->setPalette(p);
+    auto* bannerRow = new QHBoxLayout(banner);
+    auto* title = new QLabel(caption, banner);
+    QFont f = title->font();
+    f.setBold(true);
+    f.setPointSizeF(f.pointSizeF() * 1.2);
+    title->setFont(f);
+    bannerRow->addWidget(title);
+    outer->addWidget(banner);
+
+    rowLayout = new QFormLayout;
+    rowLayout->setContentsMargins(12, 8, 12, 4);
+    rowLayout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    outer->addLayout(rowLayout);
+    outer->addStretch();
+
+    buttonRow = new QHBoxLayout;
+    buttonRow->setContentsMargins(12, 0, 12, 0);
+    buttonRow->addStretch();
+    outer->addLayout(buttonRow);
+}
+
+void WizardDialog::Insert()
+{
+    bool refused = false;
+    try {
+        if (refusal == Refusal::Notepad && RefuseInNotepad()) {
+            refused = true;
+        } else {
+            for (const QString& piece : fragments())
+                InsertAtCaret(piece);
+            afterDelivery();
+        }
+    } catch (const RuntimeError& e) {
+        failed(e);
+        return;
+    }
+    // A refusal inserts nothing and leaves the form on the screen.
+    if (!refused)
+        closingStep();
+}
+
+void WizardDialog::failed(const RuntimeError&) { closingStep(); }
+
+QPushButton* WizardDialog::addButton(const QString& name, const QString& caption)
+{
+    QPushButton* b = Look::faceButton(name, caption, this);
+    b->setAutoDefault(false);
+    if (buttonRow->count() == 1)
+        b->setDefault(true);
+    buttonRow->addWidget(b);
+    return b;
+}
+
+QPushButton* WizardDialog::addLoadButton(const QString& name, const QString& caption)
+{
+    QPushButton* b = addButton(name, caption);
+    connect(b, &QPushButton::clicked, this, Event([this] { Insert(); }));
+    return b;
+}
+
+QPushButton* WizardDialog::addCloseButton(const QString& name, const QString& caption)
+{
+    QPushButton* b = addButton(name, caption);
+    connect(b, &QPushButton::clicked, this, &QWidget::hide);
+    return b;
+}

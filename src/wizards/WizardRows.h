@@ -1,0 +1,36 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+
+class ColourSwatch;
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+// The rows that recur in the wizards, each added to a form layout with its label and named as
+// the system names its controls.
+namespace WizardRows {
+
+// A labelled text box with its default text.
+QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text = {});
+
+// A colour field: the text box (whose text holds its double quotes), the form's swatch and the
+// "Choose" button, which runs the one colour step of the colour library.
+struct ColourField {
+    QLineEdit* text = nullptr;
+    ColourSwatch* swatch = nullptr;
+    QPushButton* choose = nullptr;
+};
+ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
+                   const QString& label, const QString& text = QStringLiteral("\"#000000\""));
+
+// An editable list with its rows and its default text; what a user types is taken as it is.
+QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items,
+                const QString& text);
+// The alignment list ("Center", "Left", "Right"; default "Center").
+QComboBox* alignment(QFormLayout* rows, const QString& name, const QString& label = QStringLiteral("Position :"));
+// The font-size list ("1  (8pt)" ... "7  (36pt)"; default "3  (12pt)").
+QComboBox* fontSize(QFormLayout* rows, const QString& name, const QString& label = QStringLiteral("Size :"));
+}

@@ -1,0 +1,103 @@
+// The command registry, the one table of keys to windows, and the active document service.
+#include "common/TestSupport.h"
+
+#include "documents/frmDocument.h"
+#include "documents/notepad.h"
+#include "platform/Forms.h"
+#include "platform/RuntimeError.h"
+#include "services/Commands.h"
+#include "services/Workspace.h"
+#include "shell/MenuTable.h"
+#include "shell/frmMain.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+
+namespace {
+class CommandsTest : public WindowTest {
+protected:
+    void SetUp() override { startWithoutPage(); }
+};
+}
+
+// A misspelt window name would leave its item greyed out for ever: every window the table names
+// exists in this build or waits on the one list of windows still to be built, never both.
+TEST_F(CommandsTest, EveryWindowTheKeysNameExistsOrIsStillToBeBuilt)
+{
+    const QStringList toBuild = Commands::windowsToBuild();
+    for (const auto& [key, window] : Commands::windowKeys()) {
+        const bool exists = Forms::hasFactory(window);
+        EXPECT_NE(exists, toBuild.contains(window)) << key.toStdString() << " -> " << window.toStdString()
+                                                    << (exists ? " exists and is still listed as to be built"
+                                                               : " exists nowhere");
+        EXPECT_EQ(Commands::available(key), exists) << key.toStdString();
+    }
+    // The list holds only windows some key names.
+    QSet<QString> named;
+    for (const auto& entry : Commands::windowKeys())
+        named.insert(entry.second);
+    for (const QString& window : toBuild)
+        EXPECT_TRUE(named.contains(window)) << window.toStdString();
+}
+
+// A key that only shows a window is in the table and nowhere else; a branch of its own is
+// left for keys that take a step first (the notepad redirect, the file chooser).
+TEST_F(CommandsTest, WindowKeysHaveNoSecondRegistration)
+{
+    const QStringList withSteps = {QStringLiteral("Insert Text"), QStringLiteral("Insert Tabbed Text"),
+                                   QStringLiteral("Insert .CSV File"), QStringLiteral("Insert TAB File")};
+    for (const auto& [key, window] : Commands::windowKeys())
+        EXPECT_EQ(Commands::has(key), withSteps.contains(key)) << key.toStdString();
+}
+
+TEST_F(CommandsTest, ClickRunsBranchesAndWindowsAndSwallowsFailures)
+{
+    // A key that shows a window.
+    Commands::click(QStringLiteral("GoTo Line"));
+    ASSERT_TRUE(Forms::isLoaded(QStringLiteral("frmgoto")));
+    EXPECT_TRUE(Forms::find(QStringLiteral("frmgoto"))->isVisible());
+
+    // A branch that needs a document ends quietly without one, through click; run lets the
+    // run-time error through to the caller.
+    ASSERT_EQ(ActiveForm(), nullptr);
+    EXPECT_NO_THROW(Commands::click(QStringLiteral("Undo")));
+    try {
+        Commands::run(QStringLiteral("Undo"));
+        ADD_FAILURE() << "no run-time error without a document";
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number, 91);
+        EXPECT_EQ(e.description, QStringLiteral("Object variable or With block variable not set"));
+    }
+    // An unknown key does nothing.
+    EXPECT_FALSE(Commands::available(QStringLiteral("No Such Key")));
+    EXPECT_NO_THROW(Commands::click(QStringLiteral("No Such Key")));
+}
+
+// One service answers for the active document, however many windows there are.
+TEST_F(CommandsTest, ActiveDocumentFollowsTheMainWindow)
+{
+    EXPECT_EQ(ActiveForm(), nullptr);
+    frmDocument* page = newPage(QStringLiteral("x"));
+    EXPECT_EQ(ActiveForm(), page);
+    EXPECT_EQ(ActiveDocument(), page);
+    EXPECT_FALSE(page->isNotepad());
+    notepad* pad = newPad();
+    EXPECT_EQ(ActiveDocument(), pad);
+    EXPECT_TRUE(pad->isNotepad());
+    frmMain::instance()->activate(page);
+    EXPECT_EQ(ActiveForm(), page);
+}
+
+// Items that would do nothing are not offered: "Email File" has no branch in this build yet.
+TEST_F(CommandsTest, MenuItemsWithoutABranchAreDisabled)
+{
+    QAction* email = frmMain::instance()->SmartMenuXP1->findChild<QAction*>(QStringLiteral("Email File"));
+    ASSERT_NE(email, nullptr);
+    EXPECT_EQ(email->isEnabled(), Commands::available(QStringLiteral("Email File")));
+    EXPECT_FALSE(email->isEnabled());
+    QAction* line = frmMain::instance()->SmartMenuXP1->findChild<QAction*>(QStringLiteral("Horizontal Line"));
+    ASSERT_NE(line, nullptr);
+    EXPECT_TRUE(line->isEnabled()) << "the line wizard exists";
+}

@@ -1,0 +1,176 @@
+// The wizard windows on the shared base: their fields and defaults, the insert flow with a page,
+// a split window, a notepad and no document, and the menu keys that open them.
+#include "common/TestSupport.h"
+
+#include "colour/ColourSwatch.h"
+#include "documents/frmDocument.h"
+#include "documents/frmsplit.h"
+#include "documents/notepad.h"
+#include "platform/CodeMax.h"
+#include "platform/Forms.h"
+#include "platform/RichTextBox.h"
+#include "shell/frmMain.h"
+#include "wizards/emailform.h"
+#include "wizards/lineform.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace {
+const QString refusal = QStringLiteral("You have a notepad document open, you need a web page open for this feature");
+
+class WizardWindowTest : public WindowTest {
+protected:
+    void SetUp() override { startWithoutPage(); }
+
+    template <class W>
+    W* open(const QString& menuKey)
+    {
+        frmMain::instance()->MenuClick(menuKey);
+        auto* w = loadedForm<W>();
+        EXPECT_NE(w, nullptr) << menuKey.toStdString();
+        if (w)
+            EXPECT_TRUE(w->isVisible()) << menuKey.toStdString();
+        return w;
+    }
+    static QStringList rows(const QComboBox* box)
+    {
+        QStringList items;
+        for (int i = 0; i < box->count(); ++i)
+            items << box->itemText(i);
+        return items;
+    }
+    static frmsplit* newSplit()
+    {
+        auto* split = new frmsplit;
+        frmMain::instance()->addDocument(split);
+        processEvents();
+        return split;
+    }
+};
+}
+
+TEST_F(WizardWindowTest, LineWizardHasThePartsFieldsAndDefaults)
+{
+    lineform* w = open<lineform>(QStringLiteral("Horizontal Line"));
+    ASSERT_NE(w, nullptr);
+    saveShot(w, QStringLiteral("lineform"));
+    EXPECT_EQ(w->windowTitle(), QStringLiteral("Line Properties ::"));
+    EXPECT_EQ(w->Text1->text(), QStringLiteral("H00000000"));
+    EXPECT_EQ(rows(w->align), (QStringList{QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("Right")}));
+    EXPECT_EQ(w->align->currentText(), QStringLiteral("Center"));
+    EXPECT_EQ(rows(w->barwidth), (QStringList{QStringLiteral("100"), QStringLiteral("75"), QStringLiteral("50"), QStringLiteral("25")}));
+    EXPECT_EQ(w->barwidth->currentText(), QStringLiteral("100"));
+    EXPECT_EQ(w->barsize->text(), QStringLiteral("2"));
+    EXPECT_EQ(w->Option1->text(), QStringLiteral("Pixels"));
+    EXPECT_EQ(w->Option2->text(), QStringLiteral("%"));
+    EXPECT_TRUE(w->Option2->isChecked());
+    EXPECT_EQ(w->Command1->text(), QStringLiteral("Load"));
+    EXPECT_EQ(w->Command2->text(), QStringLiteral("Choose"));
+    for (const char* name : {"Text1", "align", "barwidth", "barsize", "Option1", "Option2", "Command1", "Command2", "Command3"})
+        EXPECT_NE(w->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+}
+
+TEST_F(WizardWindowTest, LineWizardInsertsAtTheCaretAndKeepsItsFields)
+{
+    frmDocument* page = newPage(QStringLiteral("<body></body>"));
+    page->CodeMax1()->setCursorPosition(0, 6);
+    lineform* w = open<lineform>(QStringLiteral("Horizontal Line"));
+    ASSERT_NE(w, nullptr);
+    w->Command1->click();
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body><hr color=H00000000align=Center width=100% size=2></body>"));
+    EXPECT_FALSE(page->CodeMax1()->hasSelectedText()) << "the caret goes behind the fragment";
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_TRUE(prompts.prompts().isEmpty());
+
+    // Pixels, a chosen colour and a typed alignment; the fields survive the next opening.
+    prompts.answerColour(255);
+    w->Command2->click();
+    EXPECT_EQ(w->Text1->text(), QStringLiteral("\"#FF0000\""));
+    EXPECT_EQ(w->Shape1->BackColor(), 255);
+    w->Option1->setChecked(true);
+    w->align->setCurrentText(QStringLiteral("middle"));
+    w->barwidth->setCurrentText(QStringLiteral("300"));
+    page->CodeMax1()->setText(QString());
+    w = open<lineform>(QStringLiteral("Horizontal Line"));
+    EXPECT_EQ(w->Text1->text(), QStringLiteral("\"#FF0000\""));
+    w->Command1->click();
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<hr color=\"#FF0000\"align=middle width=300 size=2>"));
+}
+
+TEST_F(WizardWindowTest, TheWizardsRefuseANotepadAndStayOpen)
+{
+    notepad* pad = newPad(QStringLiteral("my notes"));
+    for (const char* key : {"Horizontal Line", "Email"}) {
+        frmMain::instance()->MenuClick(QString::fromLatin1(key));
+        auto* w = qobject_cast<QDialog*>(Forms::find(QString::fromLatin1(key) == QLatin1String("Email") ? QStringLiteral("emailform")
+                                                                                                         : QStringLiteral("lineform")));
+        ASSERT_NE(w, nullptr) << key;
+        prompts.answerMsgBox(Answer::OK);
+        w->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+        EXPECT_TRUE(isBox(prompts.last(), refusal, 64, QStringLiteral(":: Insert Error ::"))) << key;
+        EXPECT_TRUE(w->isVisible()) << key;
+    }
+    EXPECT_EQ(prompts.prompts().size(), 2);
+    EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("my notes"));
+}
+
+TEST_F(WizardWindowTest, WithoutADocumentTheWizardsCloseSilently)
+{
+    for (const char* name : {"lineform", "emailform"}) {
+        QWidget* w = Forms::get(QString::fromLatin1(name));
+        w->show();
+        w->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+        EXPECT_FALSE(w->isVisible()) << name;
+    }
+    EXPECT_TRUE(prompts.prompts().isEmpty());
+}
+
+TEST_F(WizardWindowTest, EmailWizardWritesTheLinkIntoASplitWindowAndClearsItsTexts)
+{
+    frmsplit* split = newSplit();
+    emailform* w = open<emailform>(QStringLiteral("Email"));
+    ASSERT_NE(w, nullptr);
+    saveShot(w, QStringLiteral("emailform"));
+    EXPECT_EQ(w->windowTitle(), QStringLiteral("Email ::"));
+    EXPECT_EQ(w->Text1->text(), QString());
+    EXPECT_EQ(w->address->text(), QString());
+    EXPECT_EQ(w->subject->text(), QString());
+    EXPECT_EQ(w->align->currentText(), QStringLiteral("Center"));
+
+    w->Text1->setText(QStringLiteral("Write to us"));
+    w->address->setText(QStringLiteral("team@velloro.example"));
+    w->align->setCurrentText(QStringLiteral("Right"));
+    w->Command1->click();
+    EXPECT_EQ(split->CodeMax1()->text(),
+              QStringLiteral("<p align=Right><a href=mailto:team@velloro.example?subject=>Write to us</a></p>"));
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_EQ(w->Text1->text(), QString());
+    EXPECT_EQ(w->address->text(), QString());
+    EXPECT_EQ(w->subject->text(), QString());
+    EXPECT_EQ(w->align->currentText(), QStringLiteral("Right")) << "the position is not cleared";
+}
+
+// The close buttons and Esc hide the form; Enter runs the load button.
+TEST_F(WizardWindowTest, CloseEscapeAndEnter)
+{
+    frmDocument* page = newPage(QString());
+    emailform* w = open<emailform>(QStringLiteral("Email"));
+    ASSERT_NE(w, nullptr);
+    EXPECT_EQ(w->Command2->text(), QStringLiteral("Close"));
+    w->Command2->click();
+    EXPECT_FALSE(w->isVisible());
+    w = open<emailform>(QStringLiteral("Email"));
+    EXPECT_TRUE(w->Command1->isDefault());
+    w->address->setText(QStringLiteral("a@b.example"));
+    QTest::keyClick(w->address, Qt::Key_Return);
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<p align=Center><a href=mailto:a@b.example?subject=></a></p>"));
+    EXPECT_FALSE(w->isVisible());
+    lineform* line = open<lineform>(QStringLiteral("Horizontal Line"));
+    QTest::keyClick(line, Qt::Key_Escape);
+    EXPECT_FALSE(line->isVisible());
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<p align=Center><a href=mailto:a@b.example?subject=></a></p>"));
+}
