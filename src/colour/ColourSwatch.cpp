@@ -1,7 +1,7 @@
 #include "colour/ColourSwatch.h"
 
 #include "colour/ColourText.h"
-#include "colour/PlatformColour.h"
+#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 
 #include <QLineEdit>

@@ -1,11 +1,12 @@
 #include "documents/CodeDocumentWindow.h"
 
-#include "colour/PlatformColour.h"
+#include "documents/ContextCommands.h"
 #include "documents/Insertion.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
+#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
@@ -17,13 +18,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QMouseEvent>
 #include <QDesktopServices>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QStyle>
 #include <QToolButton>
 #include <QUrl>
@@ -39,41 +40,22 @@ struct MenuItem {
     void (*branch)();  // the window's own branch, or null for the main menu's
 };
 
-DocumentWindow* active() { return ActiveDocument(); }
-
 const QString formFieldsTail =
     QStringLiteral(" name=T1 size=20><input type=submit value=Submit name=B1><input type=reset value=Reset name=B2></p>");
-
-void editorProperties()
-{
-    if (active()->isNotepad())
-        MsgBox(QStringLiteral("Not supported for Notepad yet"));
-    else
-        active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
-}
-
-void startSpellCheck()
-{
-    if (active()->isNotepad())
-        active()->startspell();
-    else
-        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-               QStringLiteral(":: Notepad Only ::"));
-}
 
 // The context menu, in order. An item with a branch of its own runs it; the others run the
 // main menu's branch of their key (or show the window the key names).
 const MenuItem contextItems[] = {
     {"", "Page Properties", "Page Properties", "", true, nullptr},
-    {"", "Editor Properties", "Editor Properties", "", true, editorProperties},
+    {"", "Editor Properties", "Editor Properties", "", true, ContextCommands::editorProperties},
     {"", "Format Text", "Format Text", "", true, nullptr},
-    {"", "Undo", "Undo", "Undo", true, [] { ResumeNext()([] { active()->CodeMax1()->undo(); }); }},
-    {"", "Redo", "Redo", "Redo", true, [] { ResumeNext()([] { active()->CodeMax1()->redo(); }); }},
-    {"", "SelectAll", "Select All", "", true, [] { active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll); }},
-    {"", "Cut", "Cut", "Cut", true, [] { QApplication::clipboard()->clear(); active()->CodeMax1()->cut(); }},
-    {"", "Copy", "Copy", "Copy", true, [] { QApplication::clipboard()->clear(); active()->CodeMax1()->copy(); }},
-    {"", "Paste", "Paste", "Paste", true, [] { active()->CodeMax1()->paste(); }},
-    {"", "Delete Selected", "Delete Selected", "Delete", true, [] { active()->CodeMax1()->DeleteSel(); }},
+    {"", "Undo", "Undo", "Undo", true, ContextCommands::undo},
+    {"", "Redo", "Redo", "Redo", true, ContextCommands::redo},
+    {"", "SelectAll", "Select All", "", true, ContextCommands::selectAll},
+    {"", "Cut", "Cut", "Cut", true, ContextCommands::cut},
+    {"", "Copy", "Copy", "Copy", true, ContextCommands::copy},
+    {"", "Paste", "Paste", "Paste", true, ContextCommands::paste},
+    {"", "Delete Selected", "Delete Selected", "Delete", true, ContextCommands::deleteSelected},
     {"", "InsertNow", "Insert >>", "In", true, nullptr},
     {"InsertNow", "Text", "Text", "", true, nullptr},
     {"InsertNow", "Tabbed Text", "Tabbed Text", "", true, nullptr},
@@ -95,7 +77,7 @@ const MenuItem contextItems[] = {
     {"KeyForm", "Push Button", "Push Button", "", true, nullptr},
     {"KeyForm", "Drop Menu", "Drop Menu", "", true, nullptr},
     {"KeyForm", "Label", "Label", "", false, nullptr},
-    {"", "Spell Checker", "Spell Checker", "", true, startSpellCheck},
+    {"", "Spell Checker", "Spell Checker", "", true, nullptr},
     {"", "About", "About", "", true, [] { showForm(QStringLiteral("AboutFORM")); }},
 };
 

@@ -77,7 +77,7 @@ bool DocumentWindow::QueryUnload()
         QFile::remove(tempaddressBox->text() + previewSuffix());
     if (tracksChanges() && Changedvalue()->text() != QLatin1String("Changed"))
         return true;
-    const int answer = MsgBox(QStringLiteral("Would you like to save the page?"), 51, QStringLiteral(":: Velloro 2002 ::"));
+    const int answer = MsgBox(QStringLiteral("Would you like to save the page?"), Style::YesNoCancel | Style::Exclamation, QStringLiteral(":: Velloro 2002 ::"));
     if (answer == Answer::Cancel)
         return false;
     if (answer != Answer::Yes)
@@ -89,7 +89,7 @@ bool DocumentWindow::QueryUnload()
         return false;
     }
     saveForClose(path);
-    MsgBox(QStringLiteral("Page Saved as :: ") + path, 64, QStringLiteral(":: Page Saved ::"));
+    MsgBox(QStringLiteral("Page Saved as :: ") + path, Style::Information, QStringLiteral(":: Page Saved ::"));
     return true;
 }
 
@@ -112,7 +112,7 @@ void DocumentWindow::closeEvent(QCloseEvent* e)
     } catch (const RuntimeError& err) {
         // The window stays, with its text: the failure is shown as the program shows any.
         e->ignore();
-        MsgBox(runtimeErrorText(err), 16);
+        MsgBox(runtimeErrorText(err), Style::Critical);
         return;
     }
     if (!go) {

@@ -20,7 +20,7 @@ bool RefuseInNotepad()
 {
     if (!ActiveIsNotepad())
         return false;
-    MsgBox(QStringLiteral("You have a notepad document open, you need a web page open for this feature"), 64,
+    MsgBox(QStringLiteral("You have a notepad document open, you need a web page open for this feature"), Style::Information,
            QStringLiteral(":: Insert Error ::"));
     return true;
 }
@@ -29,7 +29,7 @@ bool RedirectInNotepad()
 {
     if (!ActiveIsNotepad())
         return false;
-    MsgBox(QStringLiteral("You do need to open this because you can enter text directly into the Notepad"), 0,
+    MsgBox(QStringLiteral("You do need to open this because you can enter text directly into the Notepad"), Style::OkOnly,
            QStringLiteral(":: Text Input ::"));
     return true;
 }

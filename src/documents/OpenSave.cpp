@@ -60,8 +60,7 @@ bool saveActiveToItsFile(DocumentWindow* doc, const QString& path)
             doc->CodeMax1()->SaveFile(path, true);
     } catch (const RuntimeError&) {
         MsgBox(QStringLiteral("The page could not be saved to ") + path
-                   + QStringLiteral(". The file on disk is as it was before."),
-               16, QStringLiteral(":: Save Error ::"));
+                   + QStringLiteral(". The file on disk is as it was before."), Style::Critical, QStringLiteral(":: Save Error ::"));
         return false;
     }
     return true;
@@ -81,7 +80,7 @@ void save(int noDocumentStyle, bool clearChange)
     }
     if (!saveActiveToItsFile(doc, path))
         return;
-    MsgBox(QStringLiteral("Page Saved as :: ") + path, 64, QStringLiteral(":: Page Saved ::"));
+    MsgBox(QStringLiteral("Page Saved as :: ") + path, Style::Information, QStringLiteral(":: Page Saved ::"));
     if (clearChange && !doc->isNotepad())
         doc->Changedvalue()->setText(QString());
 }
@@ -134,13 +133,13 @@ DocumentWindow* NewNotepad()
     return pad;
 }
 
-void MenuSave() { save(0, false); }
-void ToolbarSave() { save(16, true); }
+void MenuSave() { save(Style::OkOnly, false); }
+void ToolbarSave() { save(Style::Critical, true); }
 
 void MenuSaveAs()
 {
     if (!ActiveForm()) {
-        MsgBox(QStringLiteral("There is no document open to save."), 0, QStringLiteral(":: No Document ::"));
+        MsgBox(QStringLiteral("There is no document open to save."), Style::OkOnly, QStringLiteral(":: No Document ::"));
         return;
     }
     showForm(QStringLiteral("Saveas"));
@@ -156,7 +155,7 @@ void CreateTemplates()
         showForm(QStringLiteral("tmplsave"));
         return;
     }
-    if (MsgBox(QStringLiteral("Would you like to save with old filename??"), 4, QStringLiteral("Save check ::")) != Answer::Yes) {
+    if (MsgBox(QStringLiteral("Would you like to save with old filename??"), Style::YesNo, QStringLiteral("Save check ::")) != Answer::Yes) {
         showForm(QStringLiteral("tmplsave"));
         return;
     }

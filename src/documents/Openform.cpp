@@ -108,7 +108,7 @@ void Openform::Command1_Click()
 {
     const QString path = Location->text();
     if (path.isEmpty()) {
-        MsgBox(QStringLiteral("A file must be selected!"), 16, QStringLiteral(":: Load Error ::"));
+        MsgBox(QStringLiteral("A file must be selected!"), Style::Critical, QStringLiteral(":: Load Error ::"));
         return;
     }
     const QString how = Combo3->currentText();

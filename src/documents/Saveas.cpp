@@ -128,7 +128,7 @@ bool Saveas::mayWrite(const QString& path)
 {
     if (!QFileInfo::exists(path))
         return true;
-    return MsgBox(QStringLiteral("File allready exists, would you like to Overwrite the document?"), 51,
+    return MsgBox(QStringLiteral("File allready exists, would you like to Overwrite the document?"), Style::YesNoCancel | Style::Exclamation,
                   QStringLiteral(":: Velloro 2002 ::")) == Answer::Yes;
 }
 
@@ -153,11 +153,10 @@ void Saveas::SaveCode()
     } catch (const RuntimeError& e) {
         if (e.number == 438)
             return;  // a notepad has no code editor: the save ends here
-        MsgBox(QStringLiteral("The page could not be saved to ") + path + QStringLiteral(". The file on disk is as it was before."),
-               16, QStringLiteral(":: Save Error ::"));
+        MsgBox(QStringLiteral("The page could not be saved to ") + path + QStringLiteral(". The file on disk is as it was before."), Style::Critical, QStringLiteral(":: Save Error ::"));
         return;
     }
-    MsgBox(QStringLiteral(" Page Saved ::  ") + path, 64);
+    MsgBox(QStringLiteral(" Page Saved ::  ") + path, Style::Information);
     active()->tempaddress()->setText(path);
     afterSave();
 }

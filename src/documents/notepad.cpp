@@ -1,5 +1,6 @@
 #include "documents/notepad.h"
 
+#include "documents/ContextCommands.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
@@ -77,7 +78,6 @@ private:
 // The twips the ruler's marker is drawn from, and the pointer's offset while it is dragged.
 constexpr int markerOffsetTwips = 200;
 
-DocumentWindow* active() { return ActiveDocument(); }
 
 struct MenuItem {
     const char* parent;   // "" for the root menu
@@ -90,22 +90,15 @@ struct MenuItem {
 // windows names for their keys.
 const MenuItem menuItems[] = {
     {"", "page", "Page Properties", nullptr},
-    {"", "edproperties", "Editor Properties", [](notepad*) {
-         if (active()->isNotepad())
-             MsgBox(QStringLiteral("Not supported for Notepad yet"));
-         else
-             active()->CodeMax1()->ExecuteCmd(CodeMax::EditorProperties);
-     }},
+    {"", "edproperties", "Editor Properties", [](notepad*) { ContextCommands::editorProperties(); }},
     {"", "formattext", "Format Text", nullptr},
-    // Written for the code editor, with errors ignored: nothing happens in a notepad.
-    {"", "undo", "Undo", [](notepad*) { ResumeNext()([] { active()->CodeMax1()->undo(); }); }},
-    {"", "redo", "Redo", [](notepad*) { ResumeNext()([] { active()->CodeMax1()->redo(); }); }},
-    // Written for the code editor without a guard: in a notepad these are run-time errors.
-    {"", "select", "Select All", [](notepad*) { active()->CodeMax1()->ExecuteCmd(CodeMax::SelectAll); }},
-    {"", "cut", "Cut", [](notepad*) { QApplication::clipboard()->clear(); active()->CodeMax1()->cut(); }},
-    {"", "copy", "Copy", [](notepad*) { QApplication::clipboard()->clear(); active()->CodeMax1()->copy(); }},
-    {"", "paste", "Paste", [](notepad*) { active()->CodeMax1()->paste(); }},
-    {"", "delete", "Delete Selected", [](notepad*) { active()->CodeMax1()->DeleteSel(); }},
+    {"", "undo", "Undo", [](notepad*) { ContextCommands::undo(); }},
+    {"", "redo", "Redo", [](notepad*) { ContextCommands::redo(); }},
+    {"", "select", "Select All", [](notepad*) { ContextCommands::selectAll(); }},
+    {"", "cut", "Cut", [](notepad*) { ContextCommands::cut(); }},
+    {"", "copy", "Copy", [](notepad*) { ContextCommands::copy(); }},
+    {"", "paste", "Paste", [](notepad*) { ContextCommands::paste(); }},
+    {"", "delete", "Delete Selected", [](notepad*) { ContextCommands::deleteSelected(); }},
     {"", "insenow", "Insert Now", nullptr},
     {"insenow", "text", "Text", nullptr},
     {"insenow", "btext", "Bullet Text", nullptr},
@@ -116,13 +109,8 @@ const MenuItem menuItems[] = {
     {"", "quickside", "Quick Side", [](notepad* pad) {
          workspace().setSideholderVisible(pad->mnu->findChild<QAction*>(QStringLiteral("quickside"))->isChecked());
      }},
-    {"", "spellchecker", "Spell Checker", [](notepad*) {
-         if (active()->isNotepad())
-             active()->startspell();
-         else
-             MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
-                    QStringLiteral(":: Notepad Only ::"));
-     }},
+    // The main menu's spell check: this notepad's check when it is the active window.
+    {"", "spellchecker", "Spell Checker", [](notepad*) { Commands::click(QStringLiteral("Spell Checker")); }},
     {"", "about", "About", nullptr},
 };
 }

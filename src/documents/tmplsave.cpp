@@ -66,7 +66,7 @@ void tmplsave::Command1_Click()
         // Only a notepad has the staging box: elsewhere the save ends here.
         doc->tempbox()->setPlainText(doc->RichTextBox1()->text());
         if (Text1->text().isEmpty()) {
-            MsgBox(QStringLiteral("Name is required"), 16);
+            MsgBox(QStringLiteral("Name is required"), Style::Critical);
             return;
         }
         const QString path = folder + Text1->text() + QLatin1Char('.') + Combo1->currentText();

@@ -6,18 +6,16 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QHostAddress>
 #include <QPointer>
+#include <QStandardPaths>
 #include <QTcpSocket>
-
 #include <tuple>
-
 #include <unistd.h>
 
 
 namespace {
-const QString crlf = QStringLiteral("\r\n");
+using TextFiles::crlf;
 }
 
 int winsockErrorNumber(int socketError)

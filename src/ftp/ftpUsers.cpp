@@ -128,21 +128,20 @@ void ftpUsers::Command1_Click()
 {
     const QString name = txtProfile->text();
     if (name.isEmpty()) {
-        MsgBox(QStringLiteral("You need to enter a profile name."), 64);
+        MsgBox(QStringLiteral("You need to enter a profile name."), Style::Information);
         return;
     }
     for (QTreeWidgetItem* n : profileNodes(Tree)) {
         if (n->text(0) == name) {
             MsgBox(QStringLiteral("A Profile allready has that Profile name, please use a unique profile name. Or if you "
-                                  "are updating a profile, press the update to save the profile."),
-                   16);
+                                  "are updating a profile, press the update to save the profile."), Style::Critical);
             return;
         }
     }
     FtpProfiles::ensureIndex();
     FtpProfiles::writeProfile({name, txtAddress->text(), txtUsername->text(), txtPassword->text(), txtDate->text()});
     FtpProfiles::appendIndex(name);
-    MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been added, list will now refresh."), 64);
+    MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been added, list will now refresh."), Style::Information);
     RefreshProfiles();
 }
 
@@ -150,24 +149,24 @@ void ftpUsers::SmartNetButton2_Click()
 {
     const QString name = txtProfile->text();
     if (name.isEmpty()) {
-        MsgBox(QStringLiteral("You have not selected a profile from the left treeview to update!."), 16);
+        MsgBox(QStringLiteral("You have not selected a profile from the left treeview to update!."), Style::Critical);
         return;
     }
     if (!QFile::exists(FtpProfiles::profilePath(name))) {
-        MsgBox(QStringLiteral("Failed Profile Update: You had not selected a valid profile, or u changed the profile name."), 16);
+        MsgBox(QStringLiteral("Failed Profile Update: You had not selected a valid profile, or u changed the profile name."), Style::Critical);
         return;
     }
     FtpProfiles::writeProfile({name, txtAddress->text(), txtUsername->text(), txtPassword->text(), txtDate->text()});
-    MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been updated."), 64);
+    MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been updated."), Style::Information);
 }
 
 void ftpUsers::Command2_Click()
 {
-    if (MsgBox(QStringLiteral("Are you sure you would like to delete the current profile?"), 4 + 48, velloroTitle) == Answer::No)
+    if (MsgBox(QStringLiteral("Are you sure you would like to delete the current profile?"), Style::YesNo | Style::Exclamation, velloroTitle) == Answer::No)
         return;
     const QString name = txtProfile->text();
     if (name.isEmpty()) {
-        MsgBox(QStringLiteral("No profile currently selected to delete."), 16);
+        MsgBox(QStringLiteral("No profile currently selected to delete."), Style::Critical);
         return;
     }
     QFile::remove(FtpProfiles::profilePath(name));
@@ -182,7 +181,7 @@ void ftpUsers::Command2_Click()
         keys.append(nodeKey(n));
     FtpProfiles::rewriteIndex(keys);
     RefreshProfiles();
-    MsgBox(QStringLiteral("User Profile Deleted"), 64);
+    MsgBox(QStringLiteral("User Profile Deleted"), Style::Information);
     for (QLineEdit* e : {txtProfile, txtAddress, txtUsername, txtPassword, txtDate})
         e->clear();
 }

@@ -1,6 +1,5 @@
 #include "ftp/ftpnormal.h"
 
-#include "colour/PlatformColour.h"
 #include "ftp/FtpEngine.h"
 #include "ftp/FtpProfiles.h"
 #include "ftp/ftpUsers.h"
@@ -8,6 +7,7 @@
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
 #include "platform/Look.h"
+#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 #include "platform/Twips.h"
 
@@ -179,7 +179,7 @@ ftpnormal::ftpnormal(QWidget* parent) : QDialog(parent)
     connect(Command4, &QPushButton::clicked, this, Event([this] { Command4_Click(); }));
     connect(Command5, &QPushButton::clicked, this, Event([this] { Command5_Click(); }));
     connect(Command6, &QPushButton::clicked, this, Event([] {
-        MsgBox(QStringLiteral("The Internet settings panel is not available on this system."), 64);
+        MsgBox(QStringLiteral("The Internet settings panel is not available on this system."), Style::Information);
     }));
     connect(SmartNetButton1, &QPushButton::clicked, this, Event([this] { SmartNetButton1_Click(); }));
     connect(SmartNetButton2, &QPushButton::clicked, this, Event([this] { SmartNetButton2_Click(); }));
@@ -306,15 +306,15 @@ void ftpnormal::Tree_NodeClick(QTreeWidgetItem* node)
 void ftpnormal::upload_Click()
 {
     if (ftpaddress->text().isEmpty()) {
-        MsgBox(QStringLiteral("You havnt entered an FTP Address!"), 16);
+        MsgBox(QStringLiteral("You havnt entered an FTP Address!"), Style::Critical);
         return;
     }
     if (username->text().isEmpty()) {
-        MsgBox(QStringLiteral("You havnt entered your username!"), 16);
+        MsgBox(QStringLiteral("You havnt entered your username!"), Style::Critical);
         return;
     }
     if (password->text().isEmpty()) {
-        MsgBox(QStringLiteral("You havnt entered an your password!"), 16);
+        MsgBox(QStringLiteral("You havnt entered an your password!"), Style::Critical);
         return;
     }
     advanced()->Command1->click();
@@ -372,7 +372,7 @@ void ftpnormal::onSendComplete()
 {
     ProgressBar1->setValue(std::min(ProgressBar1->value() + 1, ProgressBar1->maximum()));
     if (!moveNext()) {
-        MsgBox(QStringLiteral("Transfer off all files completed"), 64);
+        MsgBox(QStringLiteral("Transfer off all files completed"), Style::Information);
         Flex->setRowCount(0);
         ProgressBar1->setValue(0);
         bytesValue = 0;
@@ -432,7 +432,7 @@ void ftpnormal::SmartNetButton1_Click()
 
 void ftpnormal::SmartNetButton2_Click()
 {
-    if (MsgBox(QStringLiteral("Are you sure you want to remove the selected item?"), 4, velloroTitle) != Answer::Yes)
+    if (MsgBox(QStringLiteral("Are you sure you want to remove the selected item?"), Style::YesNo, velloroTitle) != Answer::Yes)
         return;
     const int row = Flex->currentRow();
     if (row >= 0)

@@ -25,8 +25,7 @@ bool VelloroApplication::notify(QObject* receiver, QEvent* event)
     } catch (const RuntimeError& e) {
         ReportRunTimeError(e);
     } catch (const std::exception& e) {
-        MsgBox(QStringLiteral("Run-time error '51':\n\nInternal error (%1)").arg(QString::fromLocal8Bit(e.what())),
-               16, App::title());
+        MsgBox(QStringLiteral("Run-time error '51':\n\nInternal error (%1)").arg(QString::fromLocal8Bit(e.what())), Style::Critical, App::title());
     }
     return false;
 }

@@ -1,8 +1,8 @@
 #include "platform/CodeMax.h"
 
-#include "colour/PlatformColour.h"
 #include "platform/EditorOptionsDialog.h"
 #include "platform/FindReplaceDialog.h"
+#include "platform/PlatformColour.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
 

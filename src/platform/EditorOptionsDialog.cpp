@@ -1,9 +1,9 @@
 #include "platform/EditorOptionsDialog.h"
 
-#include "colour/PlatformColour.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
+#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 
 #include <QCheckBox>

@@ -32,7 +32,7 @@ void setPromptHandler(PromptHandler* handler) { installed = handler; }
 
 void ReportRunTimeError(const RuntimeError& e)
 {
-    MsgBox(runtimeErrorText(e), 16, App::title());
+    MsgBox(runtimeErrorText(e), Style::Critical, App::title());
 }
 
 int MsgBox(const QString& text, int style, const QString& title)

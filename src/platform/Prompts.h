@@ -12,6 +12,10 @@ class QPrinter;
 // 3 Yes/No/Cancel, 4 Yes/No, 5 Retry/Cancel; plus the icon 16 critical, 32 question,
 // 48 exclamation, 64 information. Answers: 1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore,
 // 6 Yes, 7 No.
+namespace Style {
+constexpr int OkOnly = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5;
+constexpr int Critical = 16, Question = 32, Exclamation = 48, Information = 64;
+}
 namespace Answer {
 constexpr int OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
 }

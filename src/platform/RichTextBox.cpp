@@ -1,6 +1,6 @@
 #include "platform/RichTextBox.h"
 
-#include "colour/PlatformColour.h"
+#include "platform/PlatformColour.h"
 #include "platform/Rtf.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"

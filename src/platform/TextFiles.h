@@ -5,6 +5,9 @@
 // Text files as the program reads and writes them: composed text carries its own CR LF and is
 // written as UTF-8; reading takes UTF-8 and falls back to Windows-1252 for invalid bytes.
 namespace TextFiles {
+// The line end of every text the program composes: carriage return plus line feed.
+inline const QString crlf = QStringLiteral("\r\n");
+
 QString decode(const QByteArray& bytes);
 QByteArray encode(const QString& text);
 // Bytes of a file as the editor holds text, UTF-8, read as decode() reads them: well-formed

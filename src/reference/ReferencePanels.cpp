@@ -6,13 +6,14 @@
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 #include "platform/Twips.h"
 #include "services/Workspace.h"
 
 #include <QEvent>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QHash>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,7 +29,7 @@ using Look::named;
 
 namespace {
 
-const QString CRLF = QStringLiteral("\r\n");
+using TextFiles::crlf;
 
 // The trees' image list, drawn here rather than shipped as files.
 QPixmap blankPicture()
@@ -222,7 +223,7 @@ QFrame* createLibraryPanel(QWidget* parent)
             MsgBox(QStringLiteral("Select a code to insert!"));
             return;
         }
-        insertSilently(text->text() + CRLF);
+        insertSilently(text->text() + crlf);
     };
     QObject::connect(insert, &QPushButton::clicked, frame, Event([insertChosen] { insertChosen(); }));
     QObject::connect(tree, &QTreeWidget::itemDoubleClicked, frame, Event([text, insertChosen](QTreeWidgetItem* item, int) {

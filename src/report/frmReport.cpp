@@ -1,10 +1,10 @@
 #include "report/frmReport.h"
 
-#include "colour/PlatformColour.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
+#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 #include "platform/Twips.h"
 #include "report/ReportEngine.h"

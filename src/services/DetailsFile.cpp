@@ -1,12 +1,13 @@
 #include "services/DetailsFile.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 #include "services/FieldReader.h"
 
 #include <QStringList>
 
 namespace {
-const QString crlf = QStringLiteral("\r\n");
+using TextFiles::crlf;
 QString quoted(const QString& s) { return QLatin1Char('"') + s + QLatin1Char('"'); }
 }
 

@@ -1,6 +1,7 @@
 #include "services/PropertiesFile.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 #include "services/FieldReader.h"
 
 namespace PropertiesFile {
@@ -36,7 +37,7 @@ bool equalsNumber(const QString& field, double wanted)
 
 QString text(const PropertiesRecord& r, double sideWidthTwips, double rightWidthTwips)
 {
-    const QString crlf = QStringLiteral("\r\n");
+    using TextFiles::crlf;
     return r.openDir + crlf + r.openDrive + crlf + r.openFileDir + crlf + r.saveDir + crlf + r.saveDrive
            + crlf + r.saveFileDir + crlf + plainNumber(sideWidthTwips) + crlf + plainNumber(rightWidthTwips) + crlf;
 }

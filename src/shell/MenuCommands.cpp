@@ -19,19 +19,19 @@
 #include <QClipboard>
 #include <QDate>
 #include <QDir>
-#include <QMdiArea>
-#include <QProcess>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMdiArea>
+#include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTime>
 #include <QUrl>
 
 namespace {
-const QString crlf = QStringLiteral("\r\n");
+using TextFiles::crlf;
 
 // A fragment the menu drops at the caret. Pieces are separated by '|', which becomes a line
 // end; the fragment itself stands between two line ends.
@@ -188,7 +188,7 @@ void recordMacro()
     if (answer.isEmpty())
         return;
     if (!ok || slot < 1 || slot > 10) {
-        MsgBox(QStringLiteral("Choose a macro number from 1 to 10."), 48, QStringLiteral("Record Macro"));
+        MsgBox(QStringLiteral("Choose a macro number from 1 to 10."), Style::Exclamation, QStringLiteral("Record Macro"));
         return;
     }
     editor->setMacroRecordSlot(slot);

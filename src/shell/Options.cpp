@@ -417,8 +417,7 @@ void ResetDetails()
     }
     if (!TextFiles::writeText(path, DetailsFile::resetText(fonts, sizes)))
         throw RuntimeError::pathFileAccess(QStringLiteral("ResetDetails"));
-    MsgBox(QStringLiteral("Settings have been reset, application will needed to be reset. This may be due to first time use of the program."),
-           16);
+    MsgBox(QStringLiteral("Settings have been reset, application will needed to be reset. This may be due to first time use of the program."), Style::Critical);
     CloseAllWindows();
 }
 

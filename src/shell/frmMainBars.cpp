@@ -9,6 +9,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextFiles.h"
 #include "services/Commands.h"
 #include "shell/MainMenu.h"
 #include "shell/MenuCommands.h"
@@ -20,7 +21,7 @@
 #include <QVBoxLayout>
 
 namespace {
-const QString crlf = QStringLiteral("\r\n");
+using TextFiles::crlf;
 
 struct BarButton {
     int number;        // SmartNetButton<number>

@@ -165,6 +165,6 @@ void SpellCheckActiveDocument()
     if (doc && doc->isNotepad())
         doc->startspell();
     else
-        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), 0,
+        MsgBox(QStringLiteral("Currently spell check does not support web pages, or there is no page open."), Style::OkOnly,
                QStringLiteral(":: Notepad Only ::"));
 }

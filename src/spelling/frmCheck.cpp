@@ -183,7 +183,7 @@ bool frmCheck::eventFilter(QObject* watched, QEvent* event)
 
 void frmCheck::showError(const RuntimeError& e)
 {
-    MsgBox(QStringLiteral("Err ") + QString::number(e.number) + QStringLiteral("\r\n") + e.description, 48);
+    MsgBox(QStringLiteral("Err ") + QString::number(e.number) + QStringLiteral("\r\n") + e.description, Style::Exclamation);
 }
 
 QString frmCheck::controlText() const
@@ -329,8 +329,7 @@ void frmCheck::cmdClose_Click() { Unload(); }
 void frmCheck::Command1_Click()
 {
     MsgBox(QStringLiteral("You need to download a Dictionary and install in the applications folder, contact ") +
-               supportAddress + QStringLiteral(" for more information."),
-           16, QStringLiteral(":: Dictionary Needed ::"));
+               supportAddress + QStringLiteral(" for more information."), Style::Critical, QStringLiteral(":: Dictionary Needed ::"));
 }
 
 void frmCheck::Command2_Click() { hide(); }
@@ -364,7 +363,7 @@ void frmCheck::FinishCheck()
 {
     hide();
     Q_EMIT CompleteSpellCheck();
-    MsgBox(QStringLiteral("Spell check complete"), 64, windowTitle());
+    MsgBox(QStringLiteral("Spell check complete"), Style::Information, windowTitle());
     cmdClose_Click();
 }
 

@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/TextFiles.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -6,7 +8,7 @@
 // byte for byte, and often not valid HTML: nothing here quotes, escapes or checks a value.
 namespace Html {
 // Carriage return plus line feed: every line end a fragment writes.
-inline const QString crlf = QStringLiteral("\r\n");
+using TextFiles::crlf;
 
 // The alignment list of every wizard that offers a position, in order; "Center" is the default.
 inline QStringList alignments()
