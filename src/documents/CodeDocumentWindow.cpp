@@ -121,7 +121,7 @@ void CodeDocumentWindow::buildContextMenu()
 {
     SmartMenuXP1 = new QMenu(QStringLiteral("&File"), this);
     SmartMenuXP1->setObjectName(QStringLiteral("SmartMenuXP1"));
-    SmartMenuXP1->setStyleSheet(QStringLiteral("QMenu::item:selected { background: rgb(193, 210, 238); color: black; }"));
+    SmartMenuXP1->setStyleSheet(QStringLiteral("QMenu::item:selected { background: %1; color: black; }").arg(Look::face.name()));
     QHash<QString, QMenu*> submenus;
     for (const MenuItem& item : contextItems) {
         const QString key = QString::fromLatin1(item.key);
@@ -178,8 +178,8 @@ QFrame* CodeDocumentWindow::buildPreviewBar(const QString& name, bool withZoom, 
 {
     auto* bar = new QFrame(this);
     bar->setObjectName(name);
-    bar->setStyleSheet(QStringLiteral("QFrame#%1 { background: rgb(255, 255, 240); } "
-                                      "QToolButton:hover { background: rgb(193, 210, 238); }").arg(name));
+    bar->setStyleSheet(QStringLiteral("QFrame#%1 { background: %2; } QToolButton:hover { background: %3; }")
+                           .arg(name, Look::tabFace.name(), Look::face.name()));
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(4, 1, 4, 1);
     row->setSpacing(2);

@@ -25,8 +25,9 @@ frmDocument::frmDocument(QWidget* parent) : CodeDocumentWindow(parent)
     SSTab1 = Look::named(new QTabWidget(this), QStringLiteral("SSTab1"));
     SSTab1->setTabPosition(QTabWidget::South);
     SSTab1->setDocumentMode(true);
-    SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab { background: rgb(255, 255, 240); padding: 4px 14px; border: 1px solid rgb(193, 210, 238); }"
-                                         "QTabBar::tab:selected { background: rgb(193, 210, 238); }"));
+    SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab { background: %1; padding: 4px 14px; border: 1px solid %2; }"
+                                         "QTabBar::tab:selected { background: %2; }")
+                              .arg(Look::tabFace.name(), Look::face.name()));
     layout->addWidget(SSTab1);
 
     // The code tab: the language bar above the editor.

@@ -125,12 +125,12 @@ notepad::notepad(QWidget* parent) : DocumentWindow(parent)
     // The tab ruler.
     Frame1 = Look::named(new QFrame(this), QStringLiteral("Frame1"));
     Frame1->setFixedHeight(18);
-    Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { background: rgb(255, 255, 240); border-bottom: 1px solid rgb(193, 210, 238); }"));
+    Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { background: %1; border-bottom: 1px solid %2; }").arg(Look::tabFace.name()).arg(Look::face.name()));
     Shape1 = Look::named(new QFrame(Frame1), QStringLiteral("Shape1"));
     Shape2 = Look::named(new QFrame(Frame1), QStringLiteral("Shape2"));
     for (QFrame* s : {Shape1, Shape2}) {
         s->setFixedSize(8, 12);
-        s->setStyleSheet(QStringLiteral("background: rgb(52, 129, 211);"));
+        s->setStyleSheet(QStringLiteral("background: %1;").arg(Look::heading.name()));
         s->setCursor(Qt::SizeHorCursor);
         s->installEventFilter(this);
     }

@@ -1,6 +1,7 @@
 #include "shell/AboutFORM.h"
 
 #include "platform/App.h"
+#include "platform/Look.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -21,7 +22,7 @@ AboutFORM::AboutFORM(QWidget* parent) : QDialog(parent)
     f.setPointSize(f.pointSize() + 6);
     f.setBold(true);
     product->setFont(f);
-    product->setStyleSheet(QStringLiteral("color: rgb(52, 129, 211);"));
+    product->setStyleSheet(QStringLiteral("color: %1;").arg(Look::heading.name()));
     versionname = new QLabel(QStringLiteral("Velloro 2002 : Version ") + App::versionNumber(), this);
     versionname->setObjectName(QStringLiteral("versionname"));
     auto* blurb = new QLabel(QStringLiteral("A desktop authoring tool for web pages."), this);

@@ -1,19 +1,19 @@
 #include "shell/Options.h"
 
+#include "colour/ColourSwatch.h"
 #include "platform/App.h"
-#include "platform/ControlChanges.h"
-#include "services/Settings.h"
 #include "platform/CheckValue.h"
+#include "platform/ControlChanges.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
-#include "colour/ColourSwatch.h"
 #include "services/Commands.h"
-#include "shell/modMain.h"
+#include "services/Settings.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
+#include "shell/modMain.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -268,7 +268,7 @@ void Options::Form_Load()
         item->setData(0, Qt::UserRole, QString::fromLatin1(n.key));
     }
     Tree->expandAll();
-    Tree->setStyleSheet(QStringLiteral("QTreeWidget { background-color: rgb(52, 129, 211); color: white; }"));
+    Tree->setStyleSheet(QStringLiteral("QTreeWidget { background-color: %1; color: white; }").arg(Look::heading.name()));
     Combo1->clear();
     Combo1->addItems(QFontDatabase::families());
     Combo1->setCurrentText(QStringLiteral("Arial"));

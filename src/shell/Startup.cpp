@@ -1,14 +1,14 @@
 #include "shell/Startup.h"
 
+#include "colour/ColourSwatch.h"
 #include "documents/PageGenerator.h"
 #include "platform/CheckValue.h"
 #include "platform/EventProcedure.h"
+#include "platform/Forms.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
-#include "colour/ColourSwatch.h"
 #include "services/Commands.h"
 #include "shell/Options.h"
-#include "platform/Forms.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -38,7 +38,7 @@ public:
         setObjectName(name);
         setCursor(Qt::PointingHandCursor);
         setMouseTracking(true);
-        setStyleSheet(QStringLiteral("QLabel { color: rgb(52, 129, 211); padding: 2px 4px; } QLabel:hover { text-decoration: underline; } QLabel:disabled { color: gray; }"));
+        setStyleSheet(QStringLiteral("QLabel { color: %1; padding: 2px 4px; } QLabel:hover { text-decoration: underline; } QLabel:disabled { color: gray; }").arg(Look::heading.name()));
     }
 
 protected:
@@ -100,7 +100,7 @@ void Startup::buildTaskList()
                           std::function<void()> command) {
         auto* row = new QHBoxLayout;
         auto* marker = named(new QLabel(QStringLiteral("\u25B6"), frstartup), QStringLiteral("Marker") + QString::fromLatin1(name));
-        marker->setStyleSheet(QStringLiteral("color: rgb(52, 129, 211);"));
+        marker->setStyleSheet(QStringLiteral("color: %1;").arg(Look::heading.name()));
         marker->setFixedWidth(14);
         marker->setVisible(false);
         const QString hint = QString::fromUtf8(hintText);

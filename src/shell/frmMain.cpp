@@ -4,31 +4,32 @@
 #include "platform/App.h"
 #include "platform/CheckValue.h"
 #include "platform/EventProcedure.h"
-#include "platform/Twips.h"
-#include "shell/AboutFORM.h"
-#include "services/Commands.h"
-#include "shell/modMain.h"
-#include "shell/MainMenu.h"
-#include "shell/Options.h"
 #include "platform/FileControls.h"
+#include "platform/Look.h"
 #include "platform/RuntimeError.h"
 #include "platform/StartupSteps.h"
+#include "platform/Twips.h"
+#include "services/Commands.h"
+#include "shell/AboutFORM.h"
+#include "shell/MainMenu.h"
+#include "shell/Options.h"
+#include "shell/modMain.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QEvent>
 #include <QFontDatabase>
-#include <QMenuBar>
-#include <QStackedLayout>
-#include <QToolBar>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QScreen>
+#include <QStackedLayout>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -82,7 +83,7 @@ void frmMain::buildLayout()
     sideLayout->setSpacing(0);
     LeftMoveIn = new QFrame(Sideholder);
     LeftMoveIn->setObjectName(QStringLiteral("LeftMoveIn"));
-    LeftMoveIn->setStyleSheet(QStringLiteral("QFrame#LeftMoveIn { background-color: rgb(52, 129, 211); }"));
+    LeftMoveIn->setStyleSheet(QStringLiteral("QFrame#LeftMoveIn { background-color: %1; }").arg(Look::heading.name()));
     auto* moveLayout = new QVBoxLayout(LeftMoveIn);
     moveLayout->setContentsMargins(1, 4, 1, 4);
     LeftMenuIn = new QToolButton(LeftMoveIn);
@@ -102,7 +103,7 @@ void frmMain::buildLayout()
 
     RightHolder = new QFrame(central);
     RightHolder->setObjectName(QStringLiteral("RightHolder"));
-    RightHolder->setStyleSheet(QStringLiteral("QFrame#RightHolder { background-color: rgb(193, 210, 238); }"));
+    RightHolder->setStyleSheet(QStringLiteral("QFrame#RightHolder { background-color: %1; }").arg(Look::face.name()));
     auto* rightLayout = new QVBoxLayout(RightHolder);
     rightLayout->setContentsMargins(1, 4, 1, 4);
     RightMenuIn = new QToolButton(RightHolder);
@@ -117,11 +118,11 @@ void frmMain::buildLayout()
 
     Tooltipframe = new QFrame(central);
     Tooltipframe->setObjectName(QStringLiteral("Tooltipframe"));
-    Tooltipframe->setStyleSheet(QStringLiteral("QFrame#Tooltipframe { background-color: rgb(255, 255, 240); border-top: 1px solid rgb(52, 129, 211); }"));
+    Tooltipframe->setStyleSheet(QStringLiteral("QFrame#Tooltipframe { background-color: %1; border-top: 1px solid %2; }").arg(Look::tabFace.name()).arg(Look::heading.name()));
     auto* tipLayout = new QHBoxLayout(Tooltipframe);
     tipLayout->setContentsMargins(6, 2, 2, 2);
     auto* tipHead = new QLabel(QStringLiteral("Tooltip :"), Tooltipframe);
-    tipHead->setStyleSheet(QStringLiteral("font-weight: bold; color: rgb(52, 129, 211);"));
+    tipHead->setStyleSheet(QStringLiteral("font-weight: bold; color: %1;").arg(Look::heading.name()));
     Tooltiptext = new QLabel(Tooltipframe);
     Tooltiptext->setObjectName(QStringLiteral("Tooltiptext"));
     SmartNetButton75 = new QToolButton(Tooltipframe);

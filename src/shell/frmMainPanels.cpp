@@ -1,12 +1,11 @@
 // The main window's left pane: the strip of panel buttons and the panels it switches.
-#include "shell/frmMain.h"
-
 #include "documents/OpenSave.h"
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
 #include "platform/Look.h"
 #include "platform/Twips.h"
 #include "reference/ReferencePanels.h"
+#include "shell/frmMain.h"
 
 #include <QComboBox>
 #include <QDateTime>
@@ -58,7 +57,7 @@ void frmMain::buildLeftPane(QFrame* holder)
     auto* row = static_cast<QHBoxLayout*>(holder->layout());
 
     LeftTool = named(new QFrame(holder), QStringLiteral("LeftTool"));
-    LeftTool->setStyleSheet(QStringLiteral("QFrame#LeftTool { background-color: rgb(193, 210, 238); }"));
+    LeftTool->setStyleSheet(QStringLiteral("QFrame#LeftTool { background-color: %1; }").arg(Look::face.name()));
     toolStrip = new QVBoxLayout(LeftTool);
     toolStrip->setContentsMargins(2, 4, 2, 4);
     toolStrip->setSpacing(2);

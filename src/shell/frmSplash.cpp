@@ -1,6 +1,7 @@
 #include "shell/frmSplash.h"
 
 #include "platform/App.h"
+#include "platform/Look.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -44,7 +45,7 @@ void frmSplash::Form_Load()
 {
     lblVersion->setText(QStringLiteral("Version ") + App::versionNumber());
     lblProductName->setText(App::title());
-    const QString colour = QStringLiteral("color: rgb(52, 129, 211);");
+    const QString colour = QStringLiteral("color: %1;").arg(Look::heading.name());
     for (QLabel* l : {lblCompanyProduct, lblPlatform1, Label1, lblProductName})
         l->setStyleSheet(colour);
     if (const QScreen* s = QGuiApplication::primaryScreen())

@@ -122,7 +122,7 @@ void frmCheck::ensureLoaded()
 void frmCheck::Form_Load()
 {
     QPalette p = Shape1->palette();
-    p.setColor(QPalette::Window, QColor(52, 129, 211));
+    p.setColor(QPalette::Window, Look::heading);
     Shape1->setPalette(p);
     LoadPosition();
     SetPosition();
