@@ -29,12 +29,13 @@ QString decode(const QByteArray& b)
     return ascii ? QString::fromLatin1(b) : TextFiles::decode(b);
 }
 
+// Letter case folded character by character (a character outside the first plane is one).
 QString foldedKey(const QString& code)
 {
-    QString k = code;
-    for (QChar& c : k)
-        c = QChar(QChar::toCaseFolded(c.unicode()));
-    return k;
+    QList<uint> k = code.toUcs4();
+    for (uint& c : k)
+        c = QChar::toCaseFolded(char32_t(c));
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(k.constData()), k.size());
 }
 
 // The loader's rules read plainly from their description, piece by piece.
@@ -69,7 +70,8 @@ QMap<QString, QStringList> referenceLoad(const QByteArray& bytes)
     return buckets;
 }
 
-char16_t upper(char16_t c) { return QChar::toUpper(c); }
+// The first character of a word, whole.
+char32_t firstCharacter(QStringView word) { return char32_t(word.toUcs4().constFirst()); }
 
 // The word test as the walk along the bucket describes it.
 bool walkedTest(const clsWordTree& tree, const QString& word)
@@ -80,7 +82,7 @@ bool walkedTest(const clsWordTree& tree, const QString& word)
     bool found = false;
     const QString lowWord = Spelling::lowerCase(word);
     b->forEach([&](QStringView entry) {
-        const bool smallFirst = !entry.isEmpty() && entry.front().unicode() != upper(entry.front().unicode());
+        const bool smallFirst = !entry.isEmpty() && firstCharacter(entry) != QChar::toUpper(firstCharacter(entry));
         found = smallFirst ? Spelling::lowerCase(entry) == lowWord : entry == word;
         return !found;
     });

@@ -222,7 +222,8 @@ QList<Node> buildSidebarTree()
 
 QList<CharacterRow> buildCharacterTable()
 {
-    // The Euro row inserts the character itself, and the section sign keeps "&sec;".
+    // The Euro row inserts the character itself, and the section sign keeps "&sec;". Every row
+    // shows its character but Space, whose character would look like nothing anyway.
     return {
         {QStringLiteral("\""), QStringLiteral("Quotes"), QStringLiteral("&quot;")},
         {QStringLiteral("&"), QStringLiteral("Ampersand"), QStringLiteral("&amp;")},
@@ -232,14 +233,14 @@ QList<CharacterRow> buildCharacterTable()
         {QStringLiteral(u"\u00A3"), QStringLiteral("Pound"), QStringLiteral("&pound;")},
         {QStringLiteral("'"), QStringLiteral("acute accent"), QStringLiteral("&acute;")},
         {QStringLiteral(u"\u00A6"), QStringLiteral("Broken Vertical line"), QStringLiteral("&brvbar;")},
-        {QString(), QStringLiteral("Paragraph"), QStringLiteral("&para;")},
+        {QStringLiteral(u"\u00B6"), QStringLiteral("Paragraph"), QStringLiteral("&para;")},
         {QStringLiteral(u"\u00BC"), QStringLiteral("Fraction"), QStringLiteral("&frac14;")},
         {QStringLiteral(u"\u00BD"), QStringLiteral("Fraction"), QStringLiteral("&frac12;")},
         {QStringLiteral(u"\u00BE"), QStringLiteral("Fraction"), QStringLiteral("&frac34;")},
-        {QStringLiteral("-"), QStringLiteral("Fraction"), QStringLiteral("&#8539;")},
-        {QStringLiteral("-"), QStringLiteral("Fraction"), QStringLiteral("&#8540;")},
-        {QStringLiteral("-"), QStringLiteral("Fraction"), QStringLiteral("&#8541;")},
-        {QStringLiteral("-"), QStringLiteral("Fraction"), QStringLiteral("&#8542;")},
+        {QStringLiteral(u"\u215B"), QStringLiteral("Fraction"), QStringLiteral("&#8539;")},
+        {QStringLiteral(u"\u215C"), QStringLiteral("Fraction"), QStringLiteral("&#8540;")},
+        {QStringLiteral(u"\u215D"), QStringLiteral("Fraction"), QStringLiteral("&#8541;")},
+        {QStringLiteral(u"\u215E"), QStringLiteral("Fraction"), QStringLiteral("&#8542;")},
         {QStringLiteral(u"\u20AC"), QStringLiteral("Euro"), QStringLiteral(u"\u20AC")},
         {QStringLiteral(u"\u2122"), QStringLiteral("Trade Mark"), QStringLiteral("&trade;")},
         {QStringLiteral(u"\u00A9"), QStringLiteral("Copy Right"), QStringLiteral("&copy;")},

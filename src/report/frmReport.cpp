@@ -142,7 +142,7 @@ void frmReport::clearFlex(const QString& header)
 void frmReport::Command1_Click()
 {
     if (CodeMax1->text().isEmpty()) {
-        MsgBox(QStringLiteral("No Data to Report on."));
+        MsgBox(QStringLiteral("No Data to Report on."), 16);
         return;
     }
     lblAction->setText(QStringLiteral("Active ..."));

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
@@ -20,8 +21,15 @@ inline char16_t upperUnit(char16_t c)
     return QChar::toUpper(c);
 }
 
+inline char32_t upperCharacter(char32_t c)
+{
+    if (c < 0x80)
+        return (c >= 'a' && c <= 'z') ? c - 32 : c;
+    return QChar::toUpper(c);
+}
+
 // The digit of an upper-case letter, 0 for a letter (or anything) that writes nothing.
-inline char16_t codeDigit(char16_t c)
+inline char16_t codeDigit(char32_t c)
 {
     switch (c) {
     case 'B': case 'F': case 'P': case 'V': return '1';
@@ -128,33 +136,45 @@ SpellState& state()
 
 void resetForTesting() { state() = SpellState(); }
 
-std::array<char16_t, 4> wordCodeUnits(QStringView word)
+CodeUnits wordCodeUnits(QStringView word)
 {
     if (word.isEmpty())
-        return {u'0', u'0', u'0', u' '};
+        return {{u'0', u'0', u'0', u' ', 0}, 4};
+    // Character by character: an emoji or a letter outside the first plane is one character of
+    // the code (two units), and it is compared whole with the one before it.
+    const Spelling::Character head = Spelling::characterAt(word, 0);
+    const char32_t first = upperCharacter(head.code);
+    char16_t digits[3] = {u'0', u'0', u'0'};
+    int found = 0;
+    char32_t previous = first;
     const char16_t* p = reinterpret_cast<const char16_t*>(word.data());
-    const char16_t first = upperUnit(p[0]);
-    std::array<char16_t, 4> code{first, u'0', u'0', u'0'};
-    int position = 1;
-    char16_t previous = first;
-    for (qsizetype i = 1; i < word.size(); ++i) {
-        const char16_t c = upperUnit(p[i]);
+    for (qsizetype i = head.units; i < word.size() && found < 3;) {
+        char32_t c = p[i];
+        if (c < 0x80) {
+            c = (c >= 'a' && c <= 'z') ? c - 32 : c;
+            ++i;
+        } else if (!QChar::isSurrogate(c)) {
+            c = QChar::toUpper(c);
+            ++i;
+        } else {
+            const Spelling::Character next = Spelling::characterAt(word, i);
+            i += next.units;
+            c = QChar::toUpper(next.code);
+        }
         if (c != previous) {
             if (const char16_t d = codeDigit(c))
-                code[size_t(position++)] = d;
+                digits[found++] = d;
             previous = c;
         }
-        if (position == 4)
-            break;
     }
+    CodeUnits code;
+    const int width = Spelling::putCharacter(code.units.data(), first);
+    std::copy_n(digits, 3, code.units.data() + width);
+    code.size = width + 3;
     return code;
 }
 
-QString WordCode(QStringView word)
-{
-    const auto code = wordCodeUnits(word);
-    return QString(reinterpret_cast<const QChar*>(code.data()), 4);
-}
+QString WordCode(QStringView word) { return wordCodeUnits(word).view().toString(); }
 
 void loadWordBytes(const QByteArray& bytes)
 {
@@ -324,15 +344,29 @@ QString properCase(const QString& text)
     return out;
 }
 
+void lowerCharacters(QStringView text, char16_t* out)
+{
+    const char16_t* in = reinterpret_cast<const char16_t*>(text.data());
+    for (qsizetype i = 0; i < text.size();) {
+        const char16_t c = in[i];
+        if (c < 0x80) {
+            out[i++] = (c >= 'A' && c <= 'Z') ? char16_t(c + 32) : c;
+            continue;
+        }
+        const Character ch = characterAt(text, i);
+        const char32_t low = QChar::toLower(ch.code);
+        if (QChar::requiresSurrogates(low) == (ch.units == 2))
+            putCharacter(out + i, low);
+        else
+            std::copy_n(in + i, ch.units, out + i);
+        i += ch.units;
+    }
+}
+
 QString lowerCase(QStringView text)
 {
     QString out(text.size(), Qt::Uninitialized);
-    const char16_t* in = reinterpret_cast<const char16_t*>(text.data());
-    char16_t* o = reinterpret_cast<char16_t*>(out.data());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = in[i];
-        o[i] = c < 0x80 ? ((c >= 'A' && c <= 'Z') ? char16_t(c + 32) : c) : QChar::toLower(c);
-    }
+    lowerCharacters(text, reinterpret_cast<char16_t*>(out.data()));
     return out;
 }
 
@@ -372,12 +406,16 @@ Alternates listAlternates(const clsWordTree& tree, const QString& lowerWord, boo
             bestRow = 1;
             return false;
         }
+        // Counted in characters: sharing the first half of a character is sharing nothing.
         const qsizetype n = std::min(entry.size(), lowerWord.size());
-        for (qsizetype j = 1; j <= n; ++j) {
-            if (entry[j - 1] != lowerWord[j - 1])
+        int j = 0;
+        for (qsizetype at = 0; at < n;) {
+            const Character e = characterAt(entry, at);
+            if (e.code != characterAt(lowerWord, at).code)
                 break;
-            if (j > bestLength) {
-                bestLength = int(j);
+            at += e.units;
+            if (++j > bestLength) {
+                bestLength = j;
                 bestRow = row;
             }
         }

@@ -1,6 +1,7 @@
 #pragma once
 #include "spelling/clsWordTree.h"
 
+#include <QChar>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -8,6 +9,36 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+
+// A character of a word is a whole code point: a surrogate pair is one character, never two.
+namespace Spelling {
+struct Character {
+    char32_t code;
+    int units;  // 1 or 2
+};
+// The character that begins at text[i] (a lone surrogate stands for itself).
+inline Character characterAt(QStringView text, qsizetype i)
+{
+    const char16_t c = text[i].unicode();
+    if (QChar::isHighSurrogate(c) && i + 1 < text.size() && QChar::isLowSurrogate(text[i + 1].unicode()))
+        return {QChar::surrogateToUcs4(c, text[i + 1].unicode()), 2};
+    return {c, 1};
+}
+// Writes the character at out: one unit, or two for a character outside the first plane.
+inline int putCharacter(char16_t* out, char32_t c)
+{
+    if (!QChar::requiresSurrogates(c)) {
+        out[0] = char16_t(c);
+        return 1;
+    }
+    out[0] = QChar::highSurrogate(c);
+    out[1] = QChar::lowSurrogate(c);
+    return 2;
+}
+// The small-letter form of text into out, which takes text.size() units: a character whose
+// small form would need another number of units stays as it is, so the length never changes.
+void lowerCharacters(QStringView text, char16_t* out);
+}
 
 // The spell checker's module: the phonetic code, the list file and the state that every spell
 // checker of the process shares.
@@ -28,8 +59,14 @@ inline clsWordTree& WordTree() { return *state().WordTree; }
 // Four characters: the first letter upper-cased and three digits; repeats are skipped only
 // when the same letter follows itself. "Robert" R163, "Jackson" J222, "" "000 ".
 QString WordCode(QStringView word);
-// The same code as four UTF-16 units.
-std::array<char16_t, 4> wordCodeUnits(QStringView word);
+// The same code as UTF-16 units: four, or five when the first character lies outside the
+// first plane.
+struct CodeUnits {
+    std::array<char16_t, 5> units;
+    int size;
+    QStringView view() const { return QStringView(units.data(), size); }
+};
+CodeUnits wordCodeUnits(QStringView word);
 
 // Reads the list file into a new tree. Missing file: error 53 and DictionaryMissing set.
 // Every error is raised again with the source "vbwSpellCheck".

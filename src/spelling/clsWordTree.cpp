@@ -7,10 +7,10 @@
 #include <cstring>
 
 namespace {
-inline char16_t upperUnit(char16_t c)
+inline char32_t upperCharacter(char32_t c)
 {
     if (c < 0x80)
-        return (c >= 'a' && c <= 'z') ? char16_t(c - 32) : c;
+        return (c >= 'a' && c <= 'z') ? c - 32 : c;
     return QChar::toUpper(c);
 }
 
@@ -28,10 +28,51 @@ inline char16_t foldUnit(char16_t c)
     return QChar::toCaseFolded(c);
 }
 
+// A code's key as text, letter case folded character by character.
+QString foldedCode(QStringView code)
+{
+    QString folded(code.size(), Qt::Uninitialized);
+    char16_t* out = reinterpret_cast<char16_t*>(folded.data());
+    qsizetype n = 0;
+    for (qsizetype i = 0; i < code.size();) {
+        const Spelling::Character ch = Spelling::characterAt(code, i);
+        const char32_t f = QChar::toCaseFolded(ch.code);
+        if (QChar::requiresSurrogates(f) == (ch.units == 2))
+            n += Spelling::putCharacter(out + n, f);
+        else
+            n += Spelling::putCharacter(out + n, ch.code);
+        i += ch.units;
+    }
+    folded.truncate(n);
+    return folded;
+}
+
+inline std::uint64_t packUnits(const char16_t* c)
+{
+    return std::uint64_t(c[0]) | std::uint64_t(c[1]) << 16 | std::uint64_t(c[2]) << 32 | std::uint64_t(c[3]) << 48;
+}
+
+// A code of four units with a surrogate in it: a code of one's own, since a word's code with a
+// character outside the first plane is five units long (a stray half folds to itself).
+[[gnu::noinline]] std::uint64_t packFoldedCharacters(const char16_t* c)
+{
+    return packUnits(reinterpret_cast<const char16_t*>(foldedCode(QStringView(c, 4)).utf16()));
+}
+
+// A code of four units, its letter case folded unit by unit, in 64 bits. For a word's code of
+// four units that is folding by character: it holds no surrogate pair, at most a stray half.
+inline std::uint64_t packWordCode(const char16_t* c)
+{
+    const char16_t f[4] = {foldUnit(c[0]), foldUnit(c[1]), foldUnit(c[2]), foldUnit(c[3])};
+    return packUnits(f);
+}
+
+// Any code of four units, its letter case folded character by character, in 64 bits.
 inline std::uint64_t packCode(const char16_t* c)
 {
-    return std::uint64_t(foldUnit(c[0])) | std::uint64_t(foldUnit(c[1])) << 16 |
-           std::uint64_t(foldUnit(c[2])) << 32 | std::uint64_t(foldUnit(c[3])) << 48;
+    if (QChar::isSurrogate(c[0]) || QChar::isSurrogate(c[1]) || QChar::isSurrogate(c[2]) || QChar::isSurrogate(c[3]))
+        return packFoldedCharacters(c);
+    return packWordCode(c);
 }
 
 inline std::uint32_t mixKey(std::uint64_t k)
@@ -65,7 +106,8 @@ inline bool sameText(QStringView a, QStringView b)
     return a.size() == b.size() && (a.isEmpty() || std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0);
 }
 
-// The small-letter form of a word, unit by unit, into a buffer that rarely needs the heap.
+// The small-letter form of a word, character by character, into a buffer that rarely needs
+// the heap.
 struct Lowered {
     char16_t local[64];
     std::u16string heap;
@@ -79,18 +121,23 @@ struct Lowered {
             out = heap.data();
         }
         const char16_t* in = reinterpret_cast<const char16_t*>(word.data());
-        for (qsizetype i = 0; i < n; ++i)
+        qsizetype i = 0;
+        for (; i < n && in[i] < 0x80; ++i)
             out[i] = lowerUnit(in[i]);
+        if (i < n)
+            Spelling::lowerCharacters(word.sliced(i), out + i);
         view = QStringView(out, n);
     }
 };
 
+// Whether the first character (a whole one, also outside the first plane) changes when
+// upper-cased.
 inline bool foldsCase(QStringView word)
 {
     if (word.isEmpty())
         return false;
-    const char16_t c = word.front().unicode();
-    return c != upperUnit(c);
+    const char32_t c = Spelling::characterAt(word, 0).code;
+    return c != upperCharacter(c);
 }
 }
 
@@ -149,13 +196,11 @@ std::uint32_t clsWordTree::bucketFor(std::uint64_t key, bool create)
     }
 }
 
-std::uint32_t clsWordTree::bucketForCode(const QString& code, bool create)
+std::uint32_t clsWordTree::bucketForCode(QStringView code, bool create)
 {
     if (code.size() == 4)
-        return bucketFor(packCode(reinterpret_cast<const char16_t*>(code.utf16())), create);
-    QString folded = code;
-    for (QChar& c : folded)
-        c = QChar(foldUnit(c.unicode()));
+        return bucketFor(packCode(reinterpret_cast<const char16_t*>(code.data())), create);
+    const QString folded = foldedCode(code);
     if (const auto it = otherCodes.constFind(folded); it != otherCodes.cend())
         return it.value();
     if (!create)
@@ -179,8 +224,8 @@ void clsWordTree::Add(const QString& code, const QString& word)
 
 void clsWordTree::addWord(QStringView word)
 {
-    const auto units = modMain::wordCodeUnits(word);
-    append(bucketFor(packCode(units.data()), true), word);
+    const auto code = modMain::wordCodeUnits(word);
+    append(code.size == 4 ? bucketFor(packWordCode(code.units.data()), true) : bucketForCode(code.view(), true), word);
 }
 
 const WordBucket* clsWordTree::GetCodeNode(const QString& code) const
@@ -329,8 +374,10 @@ void clsWordTree::growAccepted()
 
 bool clsWordTree::accepts(QStringView word) const
 {
-    const auto units = modMain::wordCodeUnits(word);
-    const std::uint32_t bucket = const_cast<clsWordTree*>(this)->bucketFor(packCode(units.data()), false);
+    const auto code = modMain::wordCodeUnits(word);
+    auto* self = const_cast<clsWordTree*>(this);
+    const std::uint32_t bucket =
+        code.size == 4 ? self->bucketFor(packWordCode(code.units.data()), false) : self->bucketForCode(code.view(), false);
     if (!bucket)
         return false;
     // Most words of a text are small-letter words of the list: that probe goes first.

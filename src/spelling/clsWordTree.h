@@ -82,7 +82,7 @@ private:
     };
 
     std::uint32_t bucketFor(std::uint64_t key, bool create);
-    std::uint32_t bucketForCode(const QString& code, bool create);
+    std::uint32_t bucketForCode(QStringView code, bool create);
     const WordBucket* bucketAt(std::uint32_t index) const;
     void append(std::uint32_t bucket, QStringView word);
     QStringView entryText(const Entry& e) const { return QStringView(arena.data() + e.offset, e.length); }
@@ -108,7 +108,8 @@ private:
     std::vector<std::uint64_t> codeKeys;
     std::vector<std::uint32_t> codeSlots;
     std::uint32_t codeUsed = 0;
-    // Codes of any other length (only reachable through Add with a code of one's own).
+    // Codes of any other length: a word's code whose first character lies outside the first
+    // plane (five units), and codes of one's own given to Add.
     QHash<QString, std::uint32_t> otherCodes;
 
     std::vector<Slot, LargeBlockAllocator<Slot>> accepted;

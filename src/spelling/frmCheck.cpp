@@ -188,9 +188,10 @@ void frmCheck::showError(const RuntimeError& e)
 
 QString frmCheck::controlText() const
 {
-    // The document's own text: one character per line break, so that its offsets are the
-    // control's selection offsets.
-    return textControl ? textControl->document()->toPlainText() : QString();
+    // The characters the control holds, one per line break, so that its offsets are the
+    // control's selection offsets. Not the plain-text copy: that turns a no-break space into a
+    // blank, and a full stop before one would then look like the ". " that starts a sentence.
+    return textControl ? textControl->document()->toRawText() : QString();
 }
 
 void frmCheck::Spellcheck(RichTextBox* control)

@@ -288,10 +288,10 @@ TEST(CharacterTable, ThirtyRowsAsListed)
     const Row rows[] = {
         {"\"", "Quotes", "&quot;"}, {"&", "Ampersand", "&amp;"}, {"<", "Less Than", "&lt;"},
         {">", "More Than", "&gt;"}, {"", "Space", "&nbsp;"}, {"£", "Pound", "&pound;"},
-        {"'", "acute accent", "&acute;"}, {"¦", "Broken Vertical line", "&brvbar;"}, {"", "Paragraph", "&para;"},
+        {"'", "acute accent", "&acute;"}, {"¦", "Broken Vertical line", "&brvbar;"}, {"¶", "Paragraph", "&para;"},
         {"¼", "Fraction", "&frac14;"}, {"½", "Fraction", "&frac12;"}, {"¾", "Fraction", "&frac34;"},
-        {"-", "Fraction", "&#8539;"}, {"-", "Fraction", "&#8540;"}, {"-", "Fraction", "&#8541;"},
-        {"-", "Fraction", "&#8542;"}, {"€", "Euro", "€"}, {"™", "Trade Mark", "&trade;"},
+        {"⅛", "Fraction", "&#8539;"}, {"⅜", "Fraction", "&#8540;"}, {"⅝", "Fraction", "&#8541;"},
+        {"⅞", "Fraction", "&#8542;"}, {"€", "Euro", "€"}, {"™", "Trade Mark", "&trade;"},
         {"©", "Copy Right", "&copy;"}, {"«", "Left Angle Quote", "&laquo;"}, {"¬", "Not Sign", "&not;"},
         {"®", "Reg Tradmark", "&reg;"}, {"¥", "Yen Sign", "&yen;"}, {"§", "Section Sign", "&sec;"},
         {"¨", "Umlaut", "&uml;"}, {"°", "Degree Sign", "&deg;"}, {"µ", "Micro Sign", "&micro;"},

@@ -341,6 +341,19 @@ TEST_F(PanelTest, CharacterPanelHoldsTheGrid)
     EXPECT_EQ(grid->item(0, 2)->text(), QStringLiteral("&quot;"));
     EXPECT_EQ(grid->item(23, 2)->text(), QStringLiteral("&sec;"));
     EXPECT_EQ(grid->item(29, 1)->text(), QStringLiteral("Superscript 3"));
+    // The pilcrow and the eighths show their own characters; only the Space row shows none.
+    struct Shown { int row; const char* character; const char* name; const char* code; };
+    const Shown shown[] = {{8, "¶", "Paragraph", "&para;"},  {12, "⅛", "Fraction", "&#8539;"},
+                           {13, "⅜", "Fraction", "&#8540;"}, {14, "⅝", "Fraction", "&#8541;"},
+                           {15, "⅞", "Fraction", "&#8542;"}, {4, "", "Space", "&nbsp;"}};
+    for (const Shown& s : shown) {
+        SCOPED_TRACE(s.row);
+        EXPECT_EQ(grid->item(s.row, 0)->text(), QString::fromUtf8(s.character));
+        EXPECT_EQ(grid->item(s.row, 1)->text(), QString::fromUtf8(s.name));
+        EXPECT_EQ(grid->item(s.row, 2)->text(), QString::fromUtf8(s.code));
+    }
+    for (int r = 0; r < grid->rowCount(); ++r)
+        EXPECT_EQ(grid->item(r, 0)->text().isEmpty(), r == 4) << "row " << r;
     // Cells are not edited in place.
     EXPECT_EQ(grid->editTriggers(), QAbstractItemView::NoEditTriggers);
 

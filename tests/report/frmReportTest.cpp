@@ -88,7 +88,7 @@ TEST_F(ReportWindowTest, EmptyTextStopsWithABox)
     start(QString());
     ASSERT_EQ(prompts.prompts().size(), 1);
     EXPECT_EQ(prompts.last().kind, QStringLiteral("MsgBox"));
-    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("No Data to Report on."), 0, appTitle));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("No Data to Report on."), 16, appTitle));
     EXPECT_EQ(control<QTableWidget>("Flex")->rowCount(), 0);
     EXPECT_EQ(control<QTableWidget>("Flex")->horizontalHeaderItem(1)->text(), QStringLiteral("Search Value ..."));
     EXPECT_EQ(control<QLabel>("lblAction")->text(), QStringLiteral("Idle"));

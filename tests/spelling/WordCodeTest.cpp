@@ -3,7 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using modMain::WordCode;
+
+// Characters outside the first plane, in UTF-8: an emoji, and a letter with a small and a
+// capital form (the two forms share their first UTF-16 half, the emoji with the next one too).
+#define EMOJI "\xf0\x9f\x98\x80"
+#define EMOJI_NEXT "\xf0\x9f\x98\x81"
+#define DESERET_SMALL "\xf0\x90\x90\xa8"
+#define DESERET_CAPITAL "\xf0\x90\x90\x80"
 
 namespace {
 QString code(const char* word) { return WordCode(QString::fromUtf8(word)); }
@@ -19,13 +28,17 @@ TEST(WordCode, ExamplesRepeatsAndTheFourthCharacter)
 {
     // C, K and S each write a 2: only the same letter twice in a row is a repeat, and the
     // apostrophe ends one. The first letter is the previous letter at the start: "Pf" repeats
-    // nothing, "Pp" does. An accented letter writes nothing; the first is upper-cased.
+    // nothing, "Pp" does. An accented letter writes nothing; the first is upper-cased. A
+    // character outside the first plane is one character: in the code, in the repeat and in
+    // the count up to the fourth.
     const std::pair<const char*, const char*> codes[] = {
         {"Robert", "R163"}, {"robert", "R163"}, {"Hello", "H400"}, {"a", "A000"}, {"", "000 "},
         {"Jackson", "J222"}, {"Anna", "A500"}, {"Anan", "A550"}, {"Bell", "B400"}, {"BELL", "B400"},
         {"Bel'l", "B440"}, {"o'clock", "O242"}, {"Ppb", "P100"}, {"Pfb", "P110"},
         {"Washington", "W252"}, {"Tymczak", "T522"}, {"bfpv", "B111"}, {"xlmnr", "X455"}, {"3d", "3300"},
-        {"a-e-i", "A000"}, {"caf\xc3\xa9s", "C120"}, {"\xc3\xa9t\xc3\xa9", "\xc3\x89" "300"}, {"\nnext", "\n523"}};
+        {"a-e-i", "A000"}, {"caf\xc3\xa9s", "C120"}, {"\xc3\xa9t\xc3\xa9", "\xc3\x89" "300"}, {"\nnext", "\n523"},
+        {EMOJI "bob", EMOJI "110"}, {EMOJI "bdlr", EMOJI "134"}, {EMOJI, EMOJI "000"}, {"b" EMOJI "b", "B100"},
+        {DESERET_SMALL DESERET_SMALL "l", DESERET_CAPITAL "400"}};
     for (const auto& [word, expected] : codes)
         EXPECT_EQ(code(word), QString::fromUtf8(expected)) << word;
 }
@@ -51,6 +64,13 @@ TEST(WordTree, BucketsKeepOrderAndDuplicatesAndIgnoreCaseOfKeys)
     EXPECT_EQ(tree.Count(), 3);
     EXPECT_EQ(bucket(tree, QStringLiteral("Xy")), (QStringList{QStringLiteral("first"), QStringLiteral("second")}));
     EXPECT_EQ(tree.GetCodeNode(QStringLiteral("X")), nullptr);
+    // Letter case is ignored by character, also outside the first plane, in a word's code of
+    // five units and in a code of one's own of four.
+    tree.Add(QString::fromUtf8(DESERET_CAPITAL "400"), QStringLiteral("third"));
+    EXPECT_EQ(bucket(tree, QString::fromUtf8(DESERET_SMALL "400")), QStringList{QStringLiteral("third")});
+    tree.Add(QString::fromUtf8(DESERET_SMALL "40"), QStringLiteral("fourth"));
+    EXPECT_EQ(bucket(tree, QString::fromUtf8(DESERET_CAPITAL "40")), QStringList{QStringLiteral("fourth")});
+    EXPECT_EQ(tree.Count(), 5);
 }
 
 TEST(WordTree, ManyWordsStayInTheirBuckets)
@@ -78,16 +98,19 @@ TEST(WordTree, ManyWordsStayInTheirBuckets)
 TEST(WordTest, CapitalRuleTrimAndNumbers)
 {
     clsWordTree tree;
-    for (const char* w : {"paris", "London", "3D", "o'clock", "\xc3\xa9t\xc3\xa9"})
+    for (const char* w : {"paris", "London", "3D", "o'clock", "\xc3\xa9t\xc3\xa9", DESERET_SMALL "ab", DESERET_CAPITAL "cd",
+                          EMOJI "ok"})
         tree.addWord(QString::fromUtf8(w));
     auto ok = [&](const char* w) { return Spelling::isCorrectWord(tree, QString::fromUtf8(w)); };
     // A list entry in small letters matches in any case; one with a capital, or one that begins
     // with a digit, only exactly. Blanks are trimmed; an empty word is not correct. Numbers as
     // a whole pass without the tree.
     for (const char* w : {"paris", "Paris", "PARIS", "London", "3D", "O'Clock", "\xc3\x89T\xc3\x89", "  paris ",
-                          "12", "1.5", "1e3", "-4", "+2.5E-3", ".5", "7."})
+                          "12", "1.5", "1e3", "-4", "+2.5E-3", ".5", "7.", DESERET_CAPITAL "ab", DESERET_CAPITAL "AB",
+                          DESERET_SMALL "ab", DESERET_CAPITAL "cd", EMOJI "ok"})
         EXPECT_TRUE(ok(w)) << w;
-    for (const char* w : {"london", "LONDON", "3d", "", "   ", "1e", "12th", "1.2.3", "e3", "-", "."})
+    for (const char* w : {"london", "LONDON", "3d", "", "   ", "1e", "12th", "1.2.3", "e3", "-", ".", DESERET_SMALL "cd",
+                          DESERET_CAPITAL "CD", EMOJI "OK", EMOJI_NEXT "ok"})
         EXPECT_FALSE(ok(w)) << w;
 }
 
@@ -180,4 +203,29 @@ TEST(Suggestions, NoBucketMissingListAndEmptyWord)
     a = Spelling::listAlternates(tree, QString(), false);
     EXPECT_EQ(a.status, Spelling::Alternates::Empty);
     EXPECT_TRUE(a.rows.isEmpty());
+}
+
+TEST(Suggestions, CharactersOutsideTheFirstPlaneAreWholeCharacters)
+{
+    // The words go in by their own codes. A capital shares nothing with the small form of its
+    // letter, and a shared first half of a character is no shared character.
+    struct Case { std::vector<const char*> bucket; const char* word; std::vector<const char*> rows; int selected; };
+    const Case cases[] = {
+        {{DESERET_SMALL "ba", DESERET_CAPITAL "b"}, DESERET_SMALL "b", {DESERET_CAPITAL "b"}, 0},
+        {{DESERET_CAPITAL "ba"}, DESERET_SMALL "bo", {DESERET_CAPITAL "ba"}, -1},
+        {{"ab", "a" EMOJI_NEXT "b"}, "a" EMOJI "b", {"ab", "a" EMOJI_NEXT "b"}, 0},
+        {{EMOJI_NEXT "a"}, EMOJI "a", {"No Suggestions"}, -1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.word);
+        clsWordTree tree;
+        for (const char* w : c.bucket)
+            tree.addWord(QString::fromUtf8(w));
+        const Spelling::Alternates a = Spelling::listAlternates(tree, QString::fromUtf8(c.word), false);
+        QStringList rows;
+        for (const char* r : c.rows)
+            rows << QString::fromUtf8(r);
+        EXPECT_EQ(a.rows, rows);
+        EXPECT_EQ(a.selected, c.selected);
+    }
 }

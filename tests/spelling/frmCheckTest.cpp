@@ -213,6 +213,39 @@ TEST_F(SpellCheckTest, LinesOfTheNotepadKeepTheirOffsets)
     EXPECT_FALSE(f->isVisible());
 }
 
+TEST_F(SpellCheckTest, ANoBreakSpaceIsTheControlsOwnCharacter)
+{
+    // A no-break space after a full stop is not the blank of ". ": the word after it needs no
+    // capital. The stops are selected at the control's own offsets (a line break is one).
+    struct Case { const char16_t* text; const char* stop; int at; };
+    const Case cases[] = {
+        {u"Go.\u00A0then go", nullptr, 0},
+        {u"Go. then go", "then", 4},
+        {u"Go\r\nthen.\u00A0go wnet", "wnet", 12},
+    };
+    dictionary("go\r\nthen\r\n");
+    for (const Case& c : cases) {
+        const QString written = QString::fromUtf16(c.text);
+        SCOPED_TRACE(written.toStdString());
+        notepad* pad = openPad(written);
+        ASSERT_EQ(text(pad), written);
+        if (!c.stop)
+            prompts.answerMsgBox(Answer::OK);
+        pad->startspell();
+        frmCheck* f = checkOf(pad);
+        if (!c.stop) {
+            EXPECT_EQ(prompts.last().text, QStringLiteral("Spell check complete"));
+            EXPECT_EQ(prompts.pending(), 0);
+            continue;
+        }
+        EXPECT_TRUE(f->isVisible());
+        EXPECT_EQ(pad->RichTextBox1()->SelStart(), c.at);
+        EXPECT_EQ(selected(pad), QString::fromLatin1(c.stop));
+        EXPECT_EQ(f->txtWord->text(), QString::fromLatin1(c.stop));
+        f->cmdClose->click();
+    }
+}
+
 TEST_F(SpellCheckTest, AddWritesAtTheNextSaveIgnoreAllNever)
 {
     auto [pad, f] = startCheck("the\r\ncat\r\n", QStringLiteral("The Velloro cat qwzx the qwzx Velloro"));
