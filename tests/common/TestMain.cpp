@@ -4,6 +4,7 @@
 #include "platform/ScriptedPrompts.h"
 
 #include <QUrl>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -20,5 +21,9 @@ int main(int argc, char** argv)
     ScriptedPrompts::setFailureHandler([](const QString& msg) { ADD_FAILURE() << msg.toStdString(); });
     // Nothing a test does may start a browser, a file manager or another program.
     refuseDesktop();
+    // Downloads go to TEMP: a folder of this process's own, so that test programs running side
+    // by side never write the same file.
+    QTemporaryDir temp;
+    qputenv("TEMP", temp.path().toUtf8());
     return RUN_ALL_TESTS();
 }
