@@ -13,12 +13,9 @@ public:
     explicit emailform(QWidget* parent = nullptr);
     EmailText::Fields fields() const;
 
-    QLineEdit* Text1 = nullptr;
-    QLineEdit* address = nullptr;
-    QLineEdit* subject = nullptr;
+    QLineEdit *Text1 = nullptr, *address = nullptr, *subject = nullptr;
     QComboBox* align = nullptr;
-    QPushButton* Command1 = nullptr;
-    QPushButton* Command2 = nullptr;
+    QPushButton *Command1 = nullptr, *Command2 = nullptr;  // "Load", close
 
 protected:
     QString fragment() const override { return EmailText::fragment(fields()); }

@@ -15,16 +15,11 @@ public:
     explicit lineform(QWidget* parent = nullptr);
     LineText::Fields fields() const;
 
-    QLineEdit* Text1 = nullptr;
+    QLineEdit *Text1 = nullptr, *barsize = nullptr;
     ColourSwatch* Shape1 = nullptr;
-    QPushButton* Command2 = nullptr;
-    QComboBox* align = nullptr;
-    QComboBox* barwidth = nullptr;
-    QLineEdit* barsize = nullptr;
-    QRadioButton* Option1 = nullptr;
-    QRadioButton* Option2 = nullptr;
-    QPushButton* Command1 = nullptr;
-    QPushButton* Command3 = nullptr;
+    QComboBox *align = nullptr, *barwidth = nullptr;
+    QRadioButton *Option1 = nullptr, *Option2 = nullptr;  // "Pixels", "%"
+    QPushButton *Command1 = nullptr, *Command2 = nullptr, *Command3 = nullptr;  // "Load", "Choose", close
 
 protected:
     QString fragment() const override { return LineText::fragment(fields()); }
