@@ -202,7 +202,6 @@ BENCHMARK(bigPage)->Arg(50)->Iterations(3)->Unit(benchmark::kMillisecond)->UseRe
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    VelloroApplication::prepare();
     VelloroApplication app(argc, argv);
     QTemporaryDir folder;
     App::setPathForTesting(folder.path());

@@ -9,7 +9,6 @@
 
 int main(int argc, char** argv)
 {
-    VelloroApplication::prepare();
     VelloroApplication app(argc, argv);
     Main();
     frmMain* main = frmMain::loaded();

@@ -12,12 +12,6 @@ VelloroApplication::VelloroApplication(int& argc, char** argv) : QApplication(ar
     setApplicationVersion(App::versionNumber());
 }
 
-void VelloroApplication::prepare()
-{
-    // No shared OpenGL context: it would load the GL driver at every start, and the browser
-    // module, loaded later, composes its pages without one.
-}
-
 bool VelloroApplication::notify(QObject* receiver, QEvent* event)
 {
     try {

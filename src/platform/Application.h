@@ -10,7 +10,4 @@ public:
     VelloroApplication(int& argc, char** argv);
     bool notify(QObject* receiver, QEvent* event) override;
 
-    // Settings every entry point needs before the QApplication exists (WebEngine's shared
-    // OpenGL contexts).
-    static void prepare();
 };

@@ -48,7 +48,6 @@ Q_SIGNALS:
     void BeforeChange(bool& cancel);
     void BeforeAdd(bool& cancel);
     void BeforeSave(bool& cancel);
-    void BeforeIgnore();
     void CompleteSpellCheck();
 
 private:
