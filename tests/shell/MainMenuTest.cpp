@@ -446,6 +446,27 @@ TEST_F(MainMenuTest, ButtonBarsRepeatTheMenuAndAddTheirOwnRefusals)
         button(n)->click();
         EXPECT_EQ(doc->CodeMax1()->text(), QString::fromLatin1(fragment)) << n;
     }
+
+    // The editor commands of the document contract's table have their buttons too: 59 and 60
+    // move the caret a line, 58 starts and stops a macro as the menu item does.
+    CodeMax* e = doc->CodeMax1();
+    e->setText(QStringLiteral("one\r\ntwo\r\nthree"));
+    e->setCursorPosition(1, 1);
+    const std::pair<int, int> moves[] = {{59, 0}, {60, 1}, {60, 2}, {60, 2}};
+    for (const auto& [n, expectedLine] : moves) {
+        ASSERT_NE(button(n), nullptr) << n;
+        EXPECT_TRUE(button(n)->isEnabled()) << n;
+        button(n)->click();
+        int line = -1, index = -1;
+        e->getCursorPosition(&line, &index);
+        EXPECT_EQ(line, expectedLine) << n;
+    }
+    EXPECT_EQ(button(58)->toolTip(), QStringLiteral("Record Macro"));
+    prompts.answerInput(QStringLiteral("2"));
+    button(58)->click();
+    EXPECT_TRUE(e->isRecordingMacro());
+    button(58)->click();
+    EXPECT_FALSE(e->isRecordingMacro());
 }
 
 TEST_F(MainMenuTest, SizeAndFontToolsWriteATagOrSetTheNotepadFont)
