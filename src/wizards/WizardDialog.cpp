@@ -16,6 +16,7 @@ WizardDialog::WizardDialog(const QString& caption, Refusal refusal, QWidget* par
     : QDialog(parent), refusal(refusal)
 {
     setWindowTitle(caption);
+    setMinimumWidth(360);
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 8);
 
