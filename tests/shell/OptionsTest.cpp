@@ -1,9 +1,9 @@
 // The Options dialog as the settings store, its pages and its save; the layout file.
-#include "common/TestSupport.h"
-
-#include "platform/CheckValue.h"
-#include "shell/AppProperties.h"
 #include "colour/ColourSwatch.h"
+#include "common/TestSupport.h"
+#include "platform/CheckValue.h"
+#include "services/Settings.h"
+#include "shell/AppProperties.h"
 #include "shell/Options.h"
 #include "shell/frmMain.h"
 
@@ -168,6 +168,32 @@ TEST_F(OptionsTest, ChooseTurnsTheColourIntoQuotedText)
     prompts.answerColour(std::nullopt);
     options->Command2->click();
     EXPECT_EQ(options->tagc->text(), QStringLiteral("\"#0A0000\"")) << "a cancelled dialog changes nothing";
+}
+
+// The rest of the program reads the settings as values: every change of a control is in them
+// at once, saved or not.
+TEST_F(OptionsTest, TheSettingsValuesFollowTheControls)
+{
+    options->txtSaveEx->setText(QStringLiteral(".htm,.php"));
+    EXPECT_EQ(Settings::details().txtSaveEx, QStringLiteral(".htm,.php"));
+    setCheckValue(options->CSS, 1);
+    EXPECT_EQ(Settings::details().CSS, 1);
+    setCheckValue(options->CSS, 0);
+    EXPECT_EQ(Settings::details().CSS, 0);
+    options->Combo4->setCurrentText(QStringLiteral("2"));
+    options->Combo1->setCurrentText(QStringLiteral("Georgia"));
+    options->Command6->click();
+    EXPECT_EQ(Settings::details().HeadingFont[1], QStringLiteral("Georgia"));
+    options->SSTART->setCurrentText(QStringLiteral("Normal"));
+    EXPECT_EQ(Settings::details().SSTART, QStringLiteral("Normal"));
+    EXPECT_EQ(Settings::details(), options->values());
+
+    // A value set from a file is in force the same way.
+    DetailsRecord r = options->values();
+    r.txtOpenEx = QStringLiteral(".txt");
+    r.Shape6 = 0x123456;
+    options->setValues(r);
+    EXPECT_EQ(Settings::details(), r);
 }
 
 TEST_F(OptionsTest, FtpClearEmptiesTheThreeFields)
