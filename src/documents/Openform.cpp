@@ -91,15 +91,7 @@ void Openform::Form_Load()
 {
     // The folders of the last session, and the layout file keeps the new ones.
     PropertiesRecord& folders = Settings::folders();
-    Drive1->setDrive(folders.openDrive);
-    Dir1->setPath(folders.openDir);
-    File1->setPath(folders.openFileDir);
-    connect(Dir1, &DirListBox::Change, this, [this](const QString& path) {
-        PropertiesRecord& f = Settings::folders();
-        f.openDir = path;
-        f.openFileDir = path;
-        f.openDrive = Drive1->Drive();
-    });
+    followFolders(Drive1, Dir1, File1, folders.openDrive, folders.openDir, folders.openFileDir);
 }
 
 int Openform::nextWindowNumber() { return counter.next(); }

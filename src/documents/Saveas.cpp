@@ -88,15 +88,7 @@ void Saveas::Form_Load()
     Combo1->addItems(extensions.split(QLatin1Char(','), Qt::SkipEmptyParts));
 
     PropertiesRecord& folders = Settings::folders();
-    Drive1->setDrive(folders.saveDrive);
-    Dir1->setPath(folders.saveDir);
-    File1->setPath(folders.saveFileDir);
-    connect(Dir1, &DirListBox::Change, this, [this](const QString& path) {
-        PropertiesRecord& f = Settings::folders();
-        f.saveDir = path;
-        f.saveFileDir = path;
-        f.saveDrive = Drive1->Drive();
-    });
+    followFolders(Drive1, Dir1, File1, folders.saveDrive, folders.saveDir, folders.saveFileDir);
 }
 
 QString Saveas::target() const

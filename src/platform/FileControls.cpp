@@ -147,3 +147,16 @@ FilePicker addFilePicker(QGridLayout* grid, QWidget* parent)
     chainFileControls(p.Drive1, p.Dir1, p.File1);
     return p;
 }
+
+void followFolders(DriveListBox* drive, DirListBox* dir, FileListBox* files, QString& driveMemory, QString& dirMemory,
+                   QString& filesMemory)
+{
+    drive->setDrive(driveMemory);
+    dir->setPath(dirMemory);
+    files->setPath(filesMemory);
+    QObject::connect(dir, &DirListBox::Change, files, [drive, &driveMemory, &dirMemory, &filesMemory](const QString& path) {
+        dirMemory = path;
+        filesMemory = path;
+        driveMemory = drive->Drive();
+    });
+}

@@ -73,3 +73,7 @@ struct FilePicker {
     FileListBox* File1;
 };
 FilePicker addFilePicker(QGridLayout* grid, QWidget* parent);
+// Puts the lists on a remembered drive and folders, and keeps the memory up to date as the user
+// moves to another folder (the memory must outlive the lists: it is the program's settings).
+void followFolders(DriveListBox* drive, DirListBox* dir, FileListBox* files, QString& driveMemory, QString& dirMemory,
+                   QString& filesMemory);
