@@ -55,8 +55,9 @@ void WizardDialog::Insert()
         if (refusal == Refusal::Notepad && RefuseInNotepad()) {
             refused = true;
         } else {
+            const bool selected = delivery() == Delivery::Selected;
             for (const QString& piece : fragments())
-                InsertAtCaret(piece);
+                selected ? InsertSelected(piece) : InsertAtCaret(piece);
             afterDelivery();
         }
     } catch (const RuntimeError& e) {

@@ -20,17 +20,22 @@ struct RuntimeError;
 class WizardDialog : public QDialog, public Form {
     Q_OBJECT
 public:
+    // Whether the wizard refuses a notepad before anything else.
+    enum class Refusal { None, Notepad };
+    // How each piece goes in: by the insertion rule (the caret behind it), or left selected.
+    enum class Delivery { AtCaret, Selected };
+
     // The insert command ("Load"): the flow above. Connected to the wizard's load button.
     void Insert();
 
 protected:
-    enum class Refusal { None, Notepad };
     WizardDialog(const QString& caption, Refusal refusal, QWidget* parent = nullptr);
 
     // The fragment of the fields as they stand; a wizard that delivers in several steps gives
     // each step, and each goes in by the insertion rule.
     virtual QString fragment() const { return {}; }
     virtual QStringList fragments() const { return {fragment()}; }
+    virtual Delivery delivery() const { return Delivery::AtCaret; }
     // After a successful delivery, before the closing step (fields the wizard clears).
     virtual void afterDelivery() {}
     // The closing step: the form hides.

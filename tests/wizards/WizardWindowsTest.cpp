@@ -9,8 +9,10 @@
 #include "platform/CodeMax.h"
 #include "platform/Forms.h"
 #include "platform/RichTextBox.h"
+#include "platform/RuntimeError.h"
 #include "shell/frmMain.h"
 #include "wizards/emailform.h"
+#include "wizards/WizardDialog.h"
 #include "wizards/lineform.h"
 
 #include <QComboBox>
@@ -32,8 +34,9 @@ protected:
         frmMain::instance()->MenuClick(menuKey);
         auto* w = loadedForm<W>();
         EXPECT_NE(w, nullptr) << menuKey.toStdString();
-        if (w)
+        if (w) {
             EXPECT_TRUE(w->isVisible()) << menuKey.toStdString();
+        }
         return w;
     }
     static QStringList rows(const QComboBox* box)
@@ -173,4 +176,52 @@ TEST_F(WizardWindowTest, CloseEscapeAndEnter)
     QTest::keyClick(line, Qt::Key_Escape);
     EXPECT_FALSE(line->isVisible());
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<p align=Center><a href=mailto:a@b.example?subject=></a></p>"));
+}
+
+namespace {
+// A wizard that uses what the base offers beyond the two real ones: delivery in steps, a
+// fragment left selected, no refusal, and a failure path of its own.
+class StepsWizard : public WizardDialog {
+public:
+    StepsWizard() : WizardDialog(QStringLiteral("Steps ::"), Refusal::None)
+    {
+        Command1 = addLoadButton(QStringLiteral("Command1"));
+    }
+    QStringList pieces = {QStringLiteral("<a>"), QStringLiteral("<b>")};
+    Delivery how = Delivery::AtCaret;
+    QStringList failures;
+    QPushButton* Command1 = nullptr;
+
+protected:
+    QStringList fragments() const override { return pieces; }
+    Delivery delivery() const override { return how; }
+    void failed(const RuntimeError& e) override { failures << e.description; }
+};
+}
+
+TEST_F(WizardWindowTest, TheBaseDeliversInStepsOrSelectedAndLetsAWizardHandleItsFailure)
+{
+    frmDocument* page = newPage(QStringLiteral("[]"));
+    page->CodeMax1()->setCursorPosition(0, 1);
+    StepsWizard w;
+    w.show();
+    w.Command1->click();
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("[<a><b>]")) << "each step behind the one before";
+    EXPECT_FALSE(w.isVisible());
+
+    w.how = StepsWizard::Delivery::Selected;
+    w.pieces = {QStringLiteral("<form>")};
+    w.show();
+    w.Command1->click();
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("[<a><b><form>]"));
+    EXPECT_EQ(page->CodeMax1()->selectedText(), QStringLiteral("<form>"));
+
+    // Without a refusal a notepad fails at the delivery, and the wizard's own path runs.
+    newPad();
+    w.show();
+    w.Command1->click();
+    ASSERT_EQ(w.failures.size(), 1);
+    EXPECT_EQ(w.failures[0], QStringLiteral("Object doesn't support this property or method"));
+    EXPECT_TRUE(w.isVisible()) << "this wizard's failure path does not hide it";
+    EXPECT_TRUE(prompts.prompts().isEmpty());
 }
