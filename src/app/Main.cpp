@@ -4,7 +4,6 @@
 #include "ftp/Registration.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
-#include "reference/Registration.h"
 #include "report/Registration.h"
 #include "services/Workspace.h"
 #include "shell/Options.h"
@@ -26,7 +25,6 @@ void registerEverything()
         return;
     done = true;
     registerDocuments();
-    registerReference();
     registerSpelling();
     registerReport();
     registerFtp();

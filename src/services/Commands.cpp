@@ -165,8 +165,6 @@ QStringList windowsToBuild()
     return names;
 }
 
-void clearForTesting() { branches().clear(); }
-
 } // namespace Commands
 
 void showForm(const QString& name)

@@ -30,8 +30,6 @@ QList<std::pair<QString, QString>> windowKeys();
 // The windows the table names that are still to be built: their keys stay disabled.
 QStringList windowsToBuild();
 
-// Tests: forget every registered branch.
-void clearForTesting();
 }
 
 // Shows a single window by its name: created and loaded on first touch, then raised.

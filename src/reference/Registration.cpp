@@ -1,3 +1,0 @@
-#include "reference/Registration.h"
-
-void registerReference() {}
