@@ -23,13 +23,15 @@ void ColourSwatch::setBackColor(int c)
     setPalette(p);
 }
 
-bool chooseColourInto(QLineEdit* field, ColourSwatch* swatch, bool withQuotes)
+bool chooseColourInto(QLineEdit* field, ColourSwatch* swatch, bool withQuotes, OnCancel onCancel)
 {
-    const auto colour = prompts().colour(swatch ? swatch->BackColor() : 0);
-    if (!colour)
+    const int held = swatch ? swatch->BackColor() : 0;
+    const auto chosen = prompts().colour(held);
+    if (!chosen && onCancel == OnCancel::Keep)
         return false;
+    const int colour = chosen.value_or(held);
     if (swatch)
-        swatch->setBackColor(*colour);
-    field->setText(ColourText::fromDialogValue(*colour, withQuotes));
-    return true;
+        swatch->setBackColor(colour);
+    field->setText(ColourText::fromDialogValue(colour, withQuotes));
+    return chosen.has_value();
 }

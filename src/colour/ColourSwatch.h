@@ -15,7 +15,11 @@ private:
 
 class QLineEdit;
 
+// What a cancelled colour dialog does: nothing, or (the wizards' convention, where a cancel is
+// not told apart) apply the colour the dialog held, which is the swatch's.
+enum class OnCancel { Keep, ApplyHeld };
+
 // The "Choose" step of every colour button: the colour dialog, then the swatch takes the
 // colour and the field its text form (with its double quotes when the field holds them).
-// False when the user cancelled; nothing changes then.
-bool chooseColourInto(QLineEdit* field, ColourSwatch* swatch, bool withQuotes);
+// False when the user cancelled.
+bool chooseColourInto(QLineEdit* field, ColourSwatch* swatch, bool withQuotes, OnCancel onCancel = OnCancel::Keep);

@@ -12,4 +12,7 @@ QString quoted(int platformColour);
 // The same steps as the system takes on a colour dialog's value: its hexadecimal digits,
 // padded with "0" in front to six (blue, green, red pairs), then the pairs reversed.
 QString fromDialogValue(int platformColour, bool withQuotes);
+// The other way: the value of a "#RRGGBB" text, with or without its double quotes; anything
+// else (a field holds what the user typed) gives the fallback.
+int toPlatformValue(const QString& text, int fallback);
 }

@@ -16,6 +16,12 @@ inline QStringList alignments()
     return {QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("Right")};
 }
 
+// The text wizard's own alignment list: its last row is in lower case.
+inline QStringList textAlignments()
+{
+    return {QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("right")};
+}
+
 // The font-size list, "1  (8pt)" to "7  (36pt)" (two blanks after the digit); the default is
 // the third row.
 inline QStringList fontSizes()

@@ -1,11 +1,21 @@
 #include "wizards/Registration.h"
 
 #include "platform/Forms.h"
+#include "wizards/Fontform.h"
+#include "wizards/Scrolltextbox.h"
+#include "wizards/Textinput.h"
+#include "wizards/bulletform.h"
 #include "wizards/emailform.h"
 #include "wizards/lineform.h"
+#include "wizards/marqueeform.h"
 
 void registerWizards()
 {
     registerForm<lineform>();
     registerForm<emailform>();
+    registerForm<Textinput>();
+    registerForm<bulletform>();
+    registerForm<marqueeform>();
+    registerForm<Scrolltextbox>();
+    registerForm<Fontform>();
 }

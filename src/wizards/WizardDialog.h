@@ -36,6 +36,9 @@ protected:
     virtual QString fragment() const { return {}; }
     virtual QStringList fragments() const { return {fragment()}; }
     virtual Delivery delivery() const { return Delivery::AtCaret; }
+    // Once the refusal has passed, before the fragment is made (a wizard that changes its own
+    // fields first).
+    virtual void beforeDelivery() {}
     // After a successful delivery, before the closing step (fields the wizard clears).
     virtual void afterDelivery() {}
     // The closing step: the form hides.

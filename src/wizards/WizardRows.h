@@ -16,8 +16,10 @@ namespace WizardRows {
 // A labelled text box with its default text.
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text = {});
 
-// A colour field: the text box (whose text holds its double quotes), the form's swatch and the
-// "Choose" button, which runs the one colour step of the colour library.
+// A colour field: the text box (whose text holds its double quotes), the form's swatch (which
+// starts in the colour of the default text, black for one that is no colour) and the "Choose"
+// button, which runs the one colour step of the colour library; a cancelled dialog applies the
+// colour it held, as the wizards' convention has it.
 struct ColourField {
     QLineEdit* text = nullptr;
     ColourSwatch* swatch = nullptr;
@@ -25,6 +27,18 @@ struct ColourField {
 };
 ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
                    const QString& label, const QString& text = QStringLiteral("\"#000000\""));
+
+// A font field: the text box (default "Arial") and its button, which opens the font dialog;
+// the field then holds the dialog's font name.
+struct FontField {
+    QLineEdit* text = nullptr;
+    QPushButton* choose = nullptr;
+};
+FontField font(QFormLayout* rows, const QString& textName, const QString& buttonName,
+               const QString& label = QStringLiteral("Font :"), const QString& caption = QStringLiteral("Choose Font"));
+// The step behind a font field's button. A cancelled dialog gives back the font it was opened
+// with, so the field is set by the same step either way.
+void chooseFontInto(QLineEdit* field);
 
 // An editable list with its rows and its default text; what a user types is taken as it is.
 QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items,

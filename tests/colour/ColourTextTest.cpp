@@ -27,3 +27,17 @@ TEST(ColourText, DialogStepsGiveTheSameTextBothWays)
     EXPECT_EQ(ColourText::fromDialogValue(0x0000C0, false), QStringLiteral("#C00000"));
     EXPECT_EQ(ColourText::fromDialogValue(193 + 210 * 256 + 238 * 65536, false), QStringLiteral("#C1D2EE"));
 }
+
+// A field's text read back as a colour value (to start a swatch with its field's colour).
+TEST(ColourText, FieldTextsBackToValues)
+{
+    const struct { const char* text; int value; } cases[] = {
+        {"\"#FF0000\"", 255}, {"#0000FF", 16711680}, {"\"#000000\"", 0}, {"\"#FFFFFF\"", 0xFFFFFF},
+        {"#3481D3", 52 + 129 * 256 + 211 * 65536}, {"#c1d2ee", 193 + 210 * 256 + 238 * 65536},
+        // Anything else keeps the fallback: the stored "H00000000", short, long, not hex, signs.
+        {"H00000000", -1}, {"", -1}, {"#FFF", -1}, {"#FF00000", -1}, {"\"#GG0000\"", -1}, {"#-10000", -1},
+        {"#+10000", -1}, {"\"#FF0000", -1}, {"red", -1},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ColourText::toPlatformValue(QString::fromLatin1(c.text), -1), c.value) << c.text;
+}

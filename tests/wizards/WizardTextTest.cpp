@@ -1,7 +1,11 @@
 // The wizards' fragments, byte for byte, from the field texts alone.
+#include "wizards/BulletText.h"
 #include "wizards/EmailText.h"
 #include "wizards/Html.h"
 #include "wizards/LineText.h"
+#include "wizards/MarqueeText.h"
+#include "wizards/TextAreaText.h"
+#include "wizards/TextInputText.h"
 
 #include <gtest/gtest.h>
 
@@ -73,4 +77,116 @@ TEST(Html, SharedLists)
     for (const auto& [text, digit] : sizes)
         EXPECT_EQ(Html::sizeDigit(QString::fromUtf8(text)), QString::fromUtf8(digit)) << text;
     EXPECT_EQ(Html::crlf, QStringLiteral("\r\n"));
+}
+
+TEST(TextInputText, Fragments)
+{
+    auto fields = [](const char* text, bool bold, bool italic) {
+        TextInputText::Fields f;
+        f.CodeMax1 = QString::fromUtf8(text);
+        f.bold = bold;
+        f.italic = italic;
+        return f;
+    };
+    TextInputText::Fields typed = fields("Hello\r\nworld", false, false);
+    typed.Combo1 = QStringLiteral("right");
+    typed.Combo2 = QStringLiteral("12");
+    typed.Text2 = QStringLiteral("Times New Roman");
+    typed.Text3 = QStringLiteral("\"#112233\"");
+    TextInputText::Fields cleared = fields("", false, false);
+    cleared.Combo2.clear();
+    cleared.Text3.clear();
+    const struct {
+        const char* name;
+        TextInputText::Fields fields;
+        const char* expected;
+    } cases[] = {
+        {"bold and italic: italic lies outside bold", fields("x", true, true),
+         "<p align=\"Center\"><font color=\"#000000\" face=\"Arial\" size=3><I><B>x</b></I></a></font></p>\r\n"},
+        {"bold only", fields("x", true, false),
+         "<p align=\"Center\"><font color=\"#000000\" face=\"Arial\" size=3><B>x</b></a></font></p>\r\n"},
+        {"italic only", fields("x", false, true),
+         "<p align=\"Center\"><font color=\"#000000\" face=\"Arial\" size=3><I>x</I></a></font></p>\r\n"},
+        {"typed values, a line break kept, a typed 12 gives size=1", typed,
+         "<p align=\"right\"><font color=\"#112233\" face=\"Times New Roman\" size=1>Hello\r\nworld</a></font></p>\r\n"},
+        {"cleared size and colour leave their places empty", cleared,
+         "<p align=\"Center\"><font color= face=\"Arial\" size=></a></font></p>\r\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(TextInputText::fragment(c.fields), QString::fromUtf8(c.expected)) << c.name;
+    EXPECT_EQ(TextInputText::styledText(QStringLiteral("x"), true, true), QStringLiteral("<I><B>x</b></I>"));
+    EXPECT_EQ(Html::textAlignments(), (QStringList{QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("right")}));
+}
+
+TEST(BulletText, Fragments)
+{
+    BulletText::Fields numbers;
+    numbers.bullets = false;
+    numbers.Text1 = QStringLiteral("one\r\ntwo");
+    numbers.Combo2 = QStringLiteral("7  (36pt)");
+    BulletText::Fields bullets;
+    bullets.Text1 = QStringLiteral("Item");
+    bullets.Text2 = QStringLiteral("Verdana");
+    bullets.Text3 = QStringLiteral("\"#FF0000\"");
+    const struct {
+        const char* name;
+        BulletText::Fields fields;
+        const char* expected;
+    } cases[] = {
+        {"bullets", bullets,
+         "<p><font color=\"#FF0000\" face=\"Verdana\" size=3><ul>\r\n<li>Item</li>\r\n</ul></font></p>\r\n"},
+        {"numbers: one item whatever the text holds", numbers,
+         "<p><font color=\"#000000\" face=\"Arial\" size=7><ol>\r\n<li>one\r\ntwo</li>\r\n</ol></font></p>\r\n"},
+        {"all defaults, empty item", BulletText::Fields{},
+         "<p><font color=\"#000000\" face=\"Arial\" size=3><ul>\r\n<li></li>\r\n</ul></font></p>\r\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(BulletText::fragment(c.fields), QString::fromUtf8(c.expected)) << c.name;
+}
+
+TEST(MarqueeText, Fragments)
+{
+    MarqueeText::Fields hi;
+    hi.Text1 = QStringLiteral("Hi");
+    MarqueeText::Fields left;
+    left.Text1 = QStringLiteral("News");
+    left.right = false;
+    left.Text2 = QStringLiteral("2");
+    left.Text3 = QStringLiteral("");
+    left.Text4 = QStringLiteral("50");
+    left.Text5 = QStringLiteral("20");
+    left.mcolor = QStringLiteral("\"#C0C0C0\"");
+    const struct {
+        const char* name;
+        MarqueeText::Fields fields;
+        const char* expected;
+    } cases[] = {
+        {"the defaults with Hi", hi,
+         "<marquee scrollamount=6 scrolldelay=90 bgcolor=\"#FFFFFF\" height=0 width=100%direction=Right>Hi</marquee></p>"},
+        {"left, an empty delay", left,
+         "<marquee scrollamount=2 scrolldelay= bgcolor=\"#C0C0C0\" height=20 width=50%direction=Left>News</marquee></p>"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(MarqueeText::fragment(c.fields), QString::fromUtf8(c.expected)) << c.name;
+}
+
+TEST(TextAreaText, Fragments)
+{
+    TextAreaText::Fields filled;
+    filled.Text1 = QStringLiteral("line 1\r\nline 2");
+    filled.Text2 = QStringLiteral("comments");
+    filled.Text3 = QStringLiteral("40");
+    filled.Text4 = QStringLiteral("10");
+    filled.Combo1 = QStringLiteral("Left");
+    const struct {
+        const char* name;
+        TextAreaText::Fields fields;
+        const char* expected;
+    } cases[] = {
+        {"defaults with an empty box", TextAreaText::Fields{},
+         "<p align=Center><textarea rows=6 name=S1 cols=55 ></textarea></p>\r\n"},
+        {"filled", filled, "<p align=Left><textarea rows=10 name=comments cols=40 >line 1\r\nline 2</textarea></p>\r\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(TextAreaText::fragment(c.fields), QString::fromUtf8(c.expected)) << c.name;
 }
