@@ -55,6 +55,7 @@ void WizardDialog::Insert()
         if (refusal == Refusal::Notepad && RefuseInNotepad()) {
             refused = true;
         } else {
+            beforeDelivery();
             const bool selected = delivery() == Delivery::Selected;
             for (const QString& piece : fragments())
                 selected ? InsertSelected(piece) : InsertAtCaret(piece);
