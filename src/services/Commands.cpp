@@ -92,8 +92,8 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
 // list and the registered forms is a misspelling, which a test catches.
 constexpr const char* notYetBuilt[] = {
     "SiteManagment", "Quick", "frmCSSCreate", "Templates", "sourcepage", "PProperties", "sidebar",
-    "Textinput", "imageform", "marqueeform", "scriptform", "Hyperlink1", "TableWizard",
-    "CSVWizard", "Tableform", "cfinderform", "dropmenu1", "externalwindow", "CSSform",
+    "Textinput", "imageform", "marqueeform", "scriptform", "Hyperlink1",
+    "cfinderform", "dropmenu1", "externalwindow", "CSSform",
     "Scrolltextbox", "dropmenu2", "Media", "Object", "JavaApplet", "RealAudio", "bulletform",
     "Fontform", "Folders", "CSSCREATE", "frmscrollbar", "FormDesign", "GifLoader", "StyleLink",
     "HelpSystem", "FeedBack", "frmUpdate", "pageproperties",

@@ -1,6 +1,9 @@
 #include "wizards/Registration.h"
 
 #include "platform/Forms.h"
+#include "wizards/CSVWizard.h"
+#include "wizards/TableWizard.h"
+#include "wizards/Tableform.h"
 #include "wizards/emailform.h"
 #include "wizards/lineform.h"
 
@@ -8,4 +11,7 @@ void registerWizards()
 {
     registerForm<lineform>();
     registerForm<emailform>();
+    registerForm<Tableform>();
+    registerForm<TableWizard>();
+    registerForm<CSVWizard>();
 }
