@@ -313,6 +313,7 @@ TEST_F(TableWizardsTest, TableWizardGridIsEdited)
     w->ckAuto->setChecked(true);
     w->Flex->setCurrentCell(1, 1);
     QTest::keyClicks(w->txtinput, QStringLiteral("x"));
+    EXPECT_EQ(w->TextMatrix(1, 1), QStringLiteral("Fruitx")) << "a typed key goes in at once";
     w->txtinput->setText(QStringLiteral("Apple"));
     EXPECT_EQ(w->TextMatrix(1, 1), QStringLiteral("Apple"));
     EXPECT_EQ(w->Flex->selectedItems().size(), 1);
@@ -345,7 +346,8 @@ TEST_F(TableWizardsTest, TableWizardGridIsEdited)
     prompts.answerColour(0x00FF00);
     w->Command7->click();
     EXPECT_EQ(w->txtbo->text(), QStringLiteral("\"#00FF00\""));
-    w->Command6->click();
+    QTest::keyClick(w->txtWidth, Qt::Key_Return);  // Enter inserts
+    EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(split->CodeMax1()->text(),
               u("<table border=1 cellspacing=1 bordercolor=\"#00FF00\" width=50% id=AutoNumber1 align=Left bgcolor=\"#FFFFFF\">\r\n"
                 "\r\n<tr>\r\n<td></td>\r\n<td></td>\r\n</tr>\r\n"
