@@ -32,6 +32,7 @@ bench: build
 	$(BUILD)/bench/bench_settings
 	$(BUILD)/bench/bench_colouring
 	$(BUILD)/bench/bench_report
+	$(BUILD)/bench/bench_tables
 	bench/spelling.sh $(BUILD)
 	$(BUILD)/bench/bench_spelling
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing

@@ -9,6 +9,7 @@ const char* RuntimeError::what() const noexcept
 
 RuntimeError RuntimeError::invalidCall(const QString& src) { return {5, QStringLiteral("Invalid procedure call or argument"), src}; }
 RuntimeError RuntimeError::overflow(const QString& src) { return {6, QStringLiteral("Overflow"), src}; }
+RuntimeError RuntimeError::divisionByZero(const QString& src) { return {11, QStringLiteral("Division by zero"), src}; }
 RuntimeError RuntimeError::typeMismatch(const QString& src) { return {13, QStringLiteral("Type mismatch"), src}; }
 RuntimeError RuntimeError::fileNotFound(const QString& src) { return {53, QStringLiteral("File not found"), src}; }
 RuntimeError RuntimeError::deviceIoError(const QString& src) { return {57, QStringLiteral("Device I/O error"), src}; }

@@ -16,6 +16,7 @@ struct RuntimeError : std::exception {
     // The well-known errors, with the platform's texts.
     static RuntimeError invalidCall(const QString& src = {});      // 5
     static RuntimeError overflow(const QString& src = {});         // 6
+    static RuntimeError divisionByZero(const QString& src = {});   // 11
     static RuntimeError typeMismatch(const QString& src = {});     // 13
     static RuntimeError fileNotFound(const QString& src = {});     // 53
     static RuntimeError deviceIoError(const QString& src = {});    // 57

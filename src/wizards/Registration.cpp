@@ -1,8 +1,11 @@
 #include "wizards/Registration.h"
 
 #include "platform/Forms.h"
+#include "wizards/CSVWizard.h"
 #include "wizards/Fontform.h"
 #include "wizards/Scrolltextbox.h"
+#include "wizards/TableWizard.h"
+#include "wizards/Tableform.h"
 #include "wizards/Textinput.h"
 #include "wizards/bulletform.h"
 #include "wizards/emailform.h"
@@ -18,4 +21,7 @@ void registerWizards()
     registerForm<marqueeform>();
     registerForm<Scrolltextbox>();
     registerForm<Fontform>();
+    registerForm<Tableform>();
+    registerForm<TableWizard>();
+    registerForm<CSVWizard>();
 }

@@ -12,7 +12,7 @@ struct RuntimeError;
 
 // The base of every insertion wizard. It owns the layout (the banner in the heading colour, the
 // rows, the button row) and the insert flow of the shared conventions:
-//   refusal (a notepad is active, for wizards that refuse) -> fragment from the fields ->
+//   refusal (a notepad is active, for wizards that refuse) -> working fields -> fragment from the fields ->
 //   delivery by the insertion rule -> the wizard's own after-steps -> closing step (Hide),
 // all under the trap: a failure (no document, a member the window lacks) takes the failure
 // path, which is the closing step unless the wizard says otherwise. A wizard supplies its
@@ -31,14 +31,14 @@ public:
 protected:
     WizardDialog(const QString& caption, Refusal refusal, QWidget* parent = nullptr);
 
+    // After the refusal, before the fragment: working fields the wizard fills from the others.
+    // A failure here takes the failure path like any other.
+    virtual void beforeDelivery() {}
     // The fragment of the fields as they stand; a wizard that delivers in several steps gives
     // each step, and each goes in by the insertion rule.
     virtual QString fragment() const { return {}; }
     virtual QStringList fragments() const { return {fragment()}; }
     virtual Delivery delivery() const { return Delivery::AtCaret; }
-    // Once the refusal has passed, before the fragment is made (a wizard that changes its own
-    // fields first).
-    virtual void beforeDelivery() {}
     // After a successful delivery, before the closing step (fields the wizard clears).
     virtual void afterDelivery() {}
     // The closing step: the form hides.

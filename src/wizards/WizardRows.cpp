@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace WizardRows {
 
@@ -23,14 +24,14 @@ QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, co
 }
 
 ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
-                   const QString& label, const QString& text)
+                   const QString& label, const QString& text, const QString& caption)
 {
     QWidget* parent = rows->parentWidget();
     ColourField f;
     f.text = Look::named(new QLineEdit(text, parent), textName);
     f.swatch = new ColourSwatch(swatchName, parent);
     f.swatch->setBackColor(ColourText::toPlatformValue(text, 0));
-    f.choose = Look::faceButton(buttonName, QStringLiteral("Choose"), parent);
+    f.choose = Look::faceButton(buttonName, caption, parent);
     f.choose->setAutoDefault(false);
     auto* row = new QHBoxLayout;
     row->addWidget(f.text, 1);
@@ -79,6 +80,47 @@ QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, co
 QComboBox* alignment(QFormLayout* rows, const QString& name, const QString& label)
 {
     return list(rows, name, label, Html::alignments(), QStringLiteral("Center"));
+}
+
+UnitChoice unit(QFormLayout* rows, const QString& label, QWidget* field)
+{
+    QWidget* parent = rows->parentWidget();
+    UnitChoice u;
+    u.pixels = Look::named(new QRadioButton(QStringLiteral("Pixels"), parent), QStringLiteral("Option1"));
+    u.percent = Look::named(new QRadioButton(QStringLiteral("%"), parent), QStringLiteral("Option2"));
+    u.percent->setChecked(true);
+    auto* row = new QHBoxLayout;
+    if (field)
+        row->addWidget(field, 1);
+    row->addWidget(u.pixels);
+    row->addWidget(u.percent);
+    if (!field)
+        row->addStretch();
+    rows->addRow(label, row);
+    return u;
+}
+
+TableStyle tableStyle(QFormLayout* rows, const QString& borderButton, const QString& backButton, const QString& caption)
+{
+    const CellTableText::Fields defaults;
+    TableStyle t;
+    t.txtWidth = line(rows, QStringLiteral("txtWidth"), QStringLiteral("Width :"), defaults.txtWidth);
+    t.coAlign = alignment(rows, QStringLiteral("coAlign"), QStringLiteral("Alignment :"));
+    t.txtbo = colour(rows, QStringLiteral("txtbo"), borderButton, QStringLiteral("borderSwatch"), QStringLiteral("Border Color :"),
+                     defaults.txtbo, caption);
+    t.txtba = colour(rows, QStringLiteral("txtba"), backButton, QStringLiteral("backSwatch"), QStringLiteral("Back Color :"),
+                     defaults.txtba, caption);
+    return t;
+}
+
+CellTableText::Fields TableStyle::fields() const
+{
+    CellTableText::Fields f;
+    f.txtWidth = txtWidth->text();
+    f.coAlign = coAlign->currentText();
+    f.txtbo = txtbo.text->text();
+    f.txtba = txtba.text->text();
+    return f;
 }
 
 QComboBox* fontSize(QFormLayout* rows, const QString& name, const QString& label)

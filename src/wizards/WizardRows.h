@@ -1,4 +1,6 @@
 #pragma once
+#include "wizards/CellTableText.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -7,6 +9,7 @@ class QComboBox;
 class QFormLayout;
 class QLineEdit;
 class QPushButton;
+class QRadioButton;
 class QWidget;
 
 // The rows that recur in the wizards, each added to a form layout with its label and named as
@@ -26,7 +29,8 @@ struct ColourField {
     QPushButton* choose = nullptr;
 };
 ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
-                   const QString& label, const QString& text = QStringLiteral("\"#000000\""));
+                   const QString& label, const QString& text = QStringLiteral("\"#000000\""),
+                   const QString& caption = QStringLiteral("Choose"));
 
 // A font field: the text box (default "Arial") and its button, which opens the font dialog;
 // the field then holds the dialog's font name.
@@ -45,6 +49,24 @@ QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, co
                 const QString& text);
 // The alignment list ("Center", "Left", "Right"; default "Center").
 QComboBox* alignment(QFormLayout* rows, const QString& name, const QString& label = QStringLiteral("Position :"));
+// The unit of a width: Option1 "Pixels" and Option2 "%" (chosen), after the width's own field
+// on the same row when one is given.
+struct UnitChoice {
+    QRadioButton* pixels = nullptr;   // Option1
+    QRadioButton* percent = nullptr;  // Option2
+};
+UnitChoice unit(QFormLayout* rows, const QString& label, QWidget* field = nullptr);
+
+// The four fields the grid and file table wizards share, with their defaults: width, alignment,
+// border and back colour (each colour with its button of the given name and caption).
+struct TableStyle {
+    QLineEdit* txtWidth = nullptr;
+    QComboBox* coAlign = nullptr;
+    ColourField txtbo, txtba;
+    CellTableText::Fields fields() const;
+};
+TableStyle tableStyle(QFormLayout* rows, const QString& borderButton, const QString& backButton, const QString& caption);
+
 // The font-size list ("1  (8pt)" ... "7  (36pt)"; default "3  (12pt)").
 QComboBox* fontSize(QFormLayout* rows, const QString& name, const QString& label = QStringLiteral("Size :"));
 }

@@ -1,11 +1,9 @@
 #include "wizards/lineform.h"
 
-#include "platform/Look.h"
 #include "wizards/WizardRows.h"
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -21,14 +19,9 @@ lineform::lineform(QWidget* parent) : WizardDialog(QStringLiteral("Line Properti
     barwidth = WizardRows::list(rows(), QStringLiteral("barwidth"), QStringLiteral("Width :"),
                                 {QStringLiteral("100"), QStringLiteral("75"), QStringLiteral("50"), QStringLiteral("25")},
                                 defaults.barwidth);
-    Option1 = Look::named(new QRadioButton(QStringLiteral("Pixels"), this), QStringLiteral("Option1"));
-    Option2 = Look::named(new QRadioButton(QStringLiteral("%"), this), QStringLiteral("Option2"));
-    Option2->setChecked(!defaults.pixels);
-    auto* unit = new QHBoxLayout;
-    unit->addWidget(Option1);
-    unit->addWidget(Option2);
-    unit->addStretch();
-    rows()->addRow(QStringLiteral("Width in :"), unit);
+    const auto unit = WizardRows::unit(rows(), QStringLiteral("Width in :"));
+    Option1 = unit.pixels;
+    Option2 = unit.percent;
     barsize = WizardRows::line(rows(), QStringLiteral("barsize"), QStringLiteral("Size :"), defaults.barsize);
 
     Command1 = addLoadButton(QStringLiteral("Command1"));

@@ -1,0 +1,167 @@
+// Tables from big text files. The whole way, as a user meets it: a CSV file of 100,000 lines
+// of 10 fields opened through the menu entry, timed from the click on the comma button to the
+// table standing in the page's editor. And the builder alone on the inputs that must not stall
+// it: one line of 200 MB, and 2 million short lines.
+#include "app/Main.h"
+#include "documents/frmDocument.h"
+#include "platform/App.h"
+#include "platform/Application.h"
+#include "platform/CodeMax.h"
+#include "platform/Forms.h"
+#include "platform/ScriptedPrompts.h"
+#include "shell/frmMain.h"
+#include "wizards/CSVWizard.h"
+#include "wizards/CsvTableText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+
+namespace {
+QTemporaryDir* folder = nullptr;
+ScriptedPrompts* scriptedPrompts = nullptr;
+
+QString csvFile(int lines, int fields)
+{
+    const QString path = folder->filePath(QStringLiteral("table-%1x%2.csv").arg(lines).arg(fields));
+    if (QFile::exists(path))
+        return path;
+    QByteArray text;
+    for (int l = 0; l < lines; ++l) {
+        for (int f = 0; f < fields; ++f) {
+            if (f)
+                text += ',';
+            text += "cell " + QByteArray::number(l) + '.' + QByteArray::number(f);
+        }
+        text += "\r\n";
+    }
+    QFile out(path);
+    out.open(QIODevice::WriteOnly);
+    out.write(text);
+    return path;
+}
+
+// A file of `lines` lines, each the same piece: made once per run of the program.
+QString repeatedFile(const QString& name, const QByteArray& piece, qsizetype count, const QByteArray& lineEnd)
+{
+    const QString path = folder->filePath(name);
+    if (QFile::exists(path))
+        return path;
+    QFile out(path);
+    out.open(QIODevice::WriteOnly);
+    QByteArray chunk;
+    for (int i = 0; i < 4096; ++i)
+        chunk += piece + lineEnd;
+    qsizetype written = 0;
+    for (; written + 4096 <= count; written += 4096)
+        out.write(chunk);
+    for (; written < count; ++written)
+        out.write(piece + lineEnd);
+    return path;
+}
+
+// From the click on the comma button to the table in the editor of a page.
+void fileToPage(benchmark::State& state, const QString& path)
+{
+    auto* page = new frmDocument;
+    frmMain::instance()->addDocument(page);
+    CodeMax* editor = page->CodeMax1();
+    for (auto _ : state) {
+        state.PauseTiming();
+        editor->setText(QString());
+        scriptedPrompts->answerOpenFile(path);
+        frmMain::instance()->MenuClick(QStringLiteral("Insert .CSV File"));
+        auto* wizard = loadedForm<CSVWizard>();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        wizard->Command2->click();
+        if (editor->length() == 0)
+            state.SkipWithError("no table in the editor");
+    }
+    state.counters["editor_MB"] = static_cast<double>(editor->length()) / 1e6;
+    page->Changedvalue()->setText(QString());
+    page->close();
+    QCoreApplication::processEvents();
+}
+
+void hundredThousandLines(benchmark::State& state) { fileToPage(state, csvFile(100000, 10)); }
+BENCHMARK(hundredThousandLines)->Iterations(3)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void twoMillionLinesToPage(benchmark::State& state)
+{
+    fileToPage(state, repeatedFile(QStringLiteral("short.csv"), "a,b,c", 2'000'000, "\r\n"));
+}
+BENCHMARK(twoMillionLinesToPage)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void longLineToPage(benchmark::State& state)
+{
+    // 200 MB in one line: 16,666,666 fields of "field value" and a comma.
+    fileToPage(state, repeatedFile(QStringLiteral("long.csv"), "field value,", 16'666'666, QByteArray()));
+}
+BENCHMARK(longLineToPage)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void builder(benchmark::State& state, const QString& text)
+{
+    qsizetype size = 0;
+    for (auto _ : state) {
+        const QString table = CsvTableText::fragment({}, text, CsvTableText::comma);
+        size = table.size();
+        benchmark::DoNotOptimize(table.constData());
+    }
+    state.counters["input_MB"] = static_cast<double>(text.size()) / 1e6;
+    state.counters["output_MB"] = static_cast<double>(size) / 1e6;
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * text.size());
+}
+
+void oneLongLine(benchmark::State& state)
+{
+    QString text;
+    text.reserve(200'000'000);
+    const QString field = QStringLiteral("field value,");
+    while (text.size() + field.size() <= 200'000'000)
+        text += field;
+    builder(state, text);
+}
+BENCHMARK(oneLongLine)->Iterations(2)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void manyShortLines(benchmark::State& state)
+{
+    QString text;
+    text.reserve(2'000'000 * 8);
+    for (int i = 0; i < 2'000'000; ++i)
+        text += QStringLiteral("a,b,c\r\n");
+    builder(state, text);
+}
+BENCHMARK(manyShortLines)->Iterations(3)->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    VelloroApplication app(argc, argv);
+    QTemporaryDir dir;
+    folder = &dir;
+    App::setPathForTesting(dir.path());
+    QDir().mkpath(dir.filePath(QStringLiteral("Options")));
+    // Settings without a first page or start screen.
+    QFile details(dir.filePath(QStringLiteral("Options/Details.dat")));
+    details.open(QIODevice::WriteOnly);
+    details.write("0\r\n1\r\n0\r\n0\r\n\"Maximized\"\r\n\"c:\\Velloro\\\"\r\n\"65\"\r\n\"HTML\"\r\n255\r\n\"#FF0000\"\r\n"
+                  "16711680\r\n\"#0000FF\"\r\n65280\r\n\"#00FF00\"\r\n\"Arial\"\r\n\"5\"\r\n\"MS Sans Serif\"\r\n\"8\"\r\n"
+                  "\"Script\"\r\n\"12\"\r\n\"Comic Sans MS\"\r\n\"14\"\r\n\"Lucida Console\"\r\n\"18\"\r\n"
+                  "\"Trebuchet MS\"\r\n\"24\"\r\n\".htm\"\r\n\".htm\"\r\n1\r\n");
+    details.close();
+    ScriptedPrompts::setFailureHandler([](const QString&) {});
+    ScriptedPrompts scripted;
+    scriptedPrompts = &scripted;
+    Main();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
