@@ -96,7 +96,7 @@ constexpr const char* notYetBuilt[] = {
     "CSVWizard", "Tableform", "cfinderform", "dropmenu1", "externalwindow", "CSSform",
     "Scrolltextbox", "dropmenu2", "Media", "Object", "JavaApplet", "RealAudio", "bulletform",
     "Fontform", "Folders", "CSSCREATE", "frmscrollbar", "FormDesign", "GifLoader", "StyleLink",
-    "HelpSystem", "FeedBack", "frmUpdate", "pageproperties",
+    "HelpSystem", "FeedBack", "frmUpdate",
 };
 }
 

@@ -3,9 +3,11 @@
 #include "platform/Forms.h"
 #include "wizards/emailform.h"
 #include "wizards/lineform.h"
+#include "wizards/pageproperties.h"
 
 void registerWizards()
 {
     registerForm<lineform>();
     registerForm<emailform>();
+    registerForm<pageproperties>();
 }
