@@ -181,7 +181,10 @@ QWidget* pageproperties::pageTab()
     m->addRow(QStringLiteral("Top Margin :"), Text2);
     m->addRow(QStringLiteral("Left Margin :"), Text4);
     Command11 = button(QStringLiteral("Command11"), QStringLiteral("Change"), margins);
-    m->addRow(QString(), Command11);
+    auto* change = new QHBoxLayout;
+    change->addStretch();
+    change->addWidget(Command11);
+    m->addRow(change);
     col->addWidget(margins);
 
     auto* colours = new QGroupBox(QStringLiteral("Colours"), page);
@@ -198,6 +201,7 @@ QWidget* pageproperties::pageTab()
         g->addWidget(swatch, row, 2);
         g->addWidget(choose, row, 3);
         g->addWidget(change, row, 4);
+        swatch->setBackColor(deflt == QLatin1String("\"#000000\"") ? 0x000000 : 0xFFFFFF);
         QLineEdit* field = text;
         ColourSwatch* shape = swatch;
         connect(choose, &QPushButton::clicked, this, Event([field, shape] { chooseColourInto(field, shape, true); }));
@@ -265,6 +269,7 @@ QWidget* pageproperties::linksTab()
                        QPushButton*& load, ColourSwatch*& swatch, const QString& swatchName) {
         text = edit(QStringLiteral("Text") + n, link, page);
         swatch = new ColourSwatch(swatchName, page);
+        swatch->setBackColor(0xFF0000);  // the default blue: blue is the high byte
         load = button(QStringLiteral("Command") + n, QStringLiteral("Load"), page);
         combo = Look::named(new QComboBox(page), QStringLiteral("Combo") + n);
         // Editable: the stored default is not one of the rows, and what the box shows is taken.

@@ -72,6 +72,7 @@ TEST_F(PagePropertiesTest, ControlsCaptionsAndDefaults)
     folder.write(QStringLiteral("site/index.htm"), QByteArray(1234, 'x'));
     frmDocument* page = newPage(QStringLiteral("<title>T</title>\r\n") + block() + QStringLiteral("<body>"));
     page->tempaddress()->setText(folder.file(QStringLiteral("site/index.htm")));
+    page->setCaption(QStringLiteral("index.htm"));
     pageproperties* w = open();
     ASSERT_NE(w, nullptr);
     EXPECT_TRUE(w->isVisible());
@@ -125,7 +126,9 @@ TEST_F(PagePropertiesTest, ControlsCaptionsAndDefaults)
         EXPECT_NE(w->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
 
     // The file's details.
-    EXPECT_EQ(w->Filenae->text(), page->Caption());
+    EXPECT_EQ(w->Filenae->text(), QStringLiteral("index.htm"));
+    EXPECT_EQ(w->Shape2->BackColor(), 0x000000) << "the swatches start at their fields' colours";
+    EXPECT_EQ(w->Shape7->BackColor(), 0xFF0000);
     EXPECT_EQ(w->Location->text(), folder.file(QStringLiteral("site/index.htm")));
     EXPECT_EQ(w->Extension->text(), QStringLiteral("HTM"));
     EXPECT_EQ(w->Filesize->text(), QStringLiteral("1234 Bytes"));
