@@ -25,6 +25,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -398,6 +399,10 @@ void pageproperties::Form_Load()
 
 void pageproperties::Form_Activate()
 {
+    // Closing a message box of this step activates the window again; that must not ask again.
+    if (activating)
+        return;
+    const QScopedValueRollback guard(activating, true);
     DocumentWindow* doc = ActiveForm();
     try {
         if (!doc)

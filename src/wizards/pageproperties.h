@@ -90,6 +90,7 @@ private:
     void fillFileDetails(DocumentWindow* doc);
     void fillNotepadValues(DocumentWindow* doc);
 
+    bool activating = false;
     QPointer<RichTextBox> exactBox;
     PageProperties::WorkCopy exact;
 };

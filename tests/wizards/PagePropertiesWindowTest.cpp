@@ -244,6 +244,21 @@ TEST_F(PagePropertiesTest, TheStyleBlockIsAddedAndUpdatedInTheWorkCopy)
     page->CodeMax1()->undo();
     EXPECT_EQ(page->CodeMax1()->text(), added);
 
+    // A pending update is dropped when the window is activated again: the work copy is the
+    // page anew. On the link colours Enter runs the update.
+    w->Command5->click();
+    EXPECT_NE(page->RichTextBox1()->text(), page->CodeMax1()->text());
+    w->hide();
+    w = open();
+    EXPECT_EQ(page->RichTextBox1()->text(), added);
+    w->SSTab1->setCurrentIndex(1);
+    w->SSTab2->setCurrentIndex(1);
+    EXPECT_TRUE(w->Command5->isDefault());
+    EXPECT_FALSE(w->Command2->isDefault());
+    QTest::keyClick(w->Text8, Qt::Key_Return);
+    EXPECT_EQ(page->RichTextBox1()->text(), updated);
+    EXPECT_EQ(page->CodeMax1()->text(), added);
+
     // The external style sheet's button hides this window.
     w->Command12->click();
     EXPECT_FALSE(w->isVisible());
