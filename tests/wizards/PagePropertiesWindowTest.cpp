@@ -121,9 +121,32 @@ TEST_F(PagePropertiesTest, ControlsCaptionsAndDefaults)
     EXPECT_EQ(w->Label26->text(), QStringLiteral("By default this option is not selected, you can make it enabled every time by "
                                                  "setting it up in the Menu, Tools, Options"));
     EXPECT_EQ(w->Label30->text(), QStringLiteral("You can use an extrenal style sheet by clicking the load button :"));
-    for (const char* name : {"Check2", "Check3", "Check4", "Shape1", "Shape2", "Shape7", "Shape8", "Shape9", "Shape10", "Filenae",
-                             "Location", "Extension", "Filesize", "Modified", "datecreated", "Readonly", "Filehidden"})
-        EXPECT_NE(w->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+    // Every control answers to its name, and the name reaches that very control.
+    const std::pair<const char*, QWidget*> named[] = {
+        {"SSTab1", w->SSTab1},     {"SSTab2", w->SSTab2},     {"SSTab3", w->SSTab3},       {"Check1", w->Check1},
+        {"Text2", w->Text2},       {"Text4", w->Text4},       {"Command11", w->Command11}, {"Text1", w->Text1},
+        {"Shape1", w->Shape1},     {"Command1", w->Command1}, {"Command2", w->Command2},   {"Text3", w->Text3},
+        {"Shape2", w->Shape2},     {"Command3", w->Command3}, {"Command4", w->Command4},   {"Text7", w->Text7},
+        {"Text8", w->Text8},       {"Text9", w->Text9},       {"Text10", w->Text10},       {"Combo7", w->Combo7},
+        {"Combo8", w->Combo8},     {"Combo9", w->Combo9},     {"Combo10", w->Combo10},     {"Command7", w->Command7},
+        {"Command8", w->Command8}, {"Command9", w->Command9}, {"Command10", w->Command10}, {"Shape7", w->Shape7},
+        {"Shape8", w->Shape8},     {"Shape9", w->Shape9},     {"Shape10", w->Shape10},     {"Command5", w->Command5},
+        {"Command6", w->Command6}, {"CSS", w->CSS},           {"Command12", w->Command12}, {"Text5", w->Text5},
+        {"Text6", w->Text6},       {"Text11", w->Text11},     {"Check2", w->Check2},       {"Check3", w->Check3},
+        {"Check4", w->Check4},     {"Filenae", w->Filenae},   {"Location", w->Location},   {"Extension", w->Extension},
+        {"Filesize", w->Filesize}, {"Modified", w->Modified}, {"datecreated", w->datecreated}, {"Readonly", w->Readonly},
+        {"Filehidden", w->Filehidden}, {"Label3", w->Label3}, {"Label24", w->Label24},     {"Label25", w->Label25},
+        {"Label26", w->Label26},   {"Label30", w->Label30},
+    };
+    for (const auto& [name, control] : named) {
+        const QList<QWidget*> found = w->findChildren<QWidget*>(QString::fromLatin1(name));
+        ASSERT_EQ(found.size(), 1) << name;
+        EXPECT_EQ(found[0], control) << name;
+    }
+    EXPECT_EQ(w->objectName(), QStringLiteral("pageproperties"));
+    EXPECT_EQ(w->Check2->text(), QStringLiteral("Bold"));
+    EXPECT_EQ(w->Check3->text(), QStringLiteral("Italic"));
+    EXPECT_EQ(w->Check4->text(), QStringLiteral("Underline"));
 
     // The file's details.
     EXPECT_EQ(w->Filenae->text(), QStringLiteral("index.htm"));
