@@ -69,10 +69,20 @@ QString asBoxText(QString s)
 int boxPosition(const QString& text, int pos)
 {
     pos = qBound(0, pos, static_cast<int>(text.size()));
-    return pos - static_cast<int>(QStringView(text).left(pos).count(QLatin1String("\r\n")));
+    int pairs = 0;
+    for (int i = 1; i < pos; ++i)
+        pairs += text[i - 1] == QLatin1Char('\r') && text[i] == QLatin1Char('\n');
+    return pos - pairs;
 }
 
-int textPosition(const RichTextBox* box, int pos) { return pos + box->GetLineFromChar(pos); }
+// The other way: the position in the text of a position in the box.
+int textPosition(const QString& text, int boxPos)
+{
+    qsizetype i = 0;
+    for (int counted = 0; i < text.size() && counted < boxPos; ++counted)
+        i += (text[i] == QLatin1Char('\r') && i + 1 < text.size() && text[i + 1] == QLatin1Char('\n')) ? 2 : 1;
+    return static_cast<int>(i);
+}
 
 void select(RichTextBox* box, const QString& text, int start, int length)
 {
@@ -414,7 +424,7 @@ void pageproperties::Form_Activate()
         box->setText(QString());
         box->setText(text);
         exactBox = box;
-        exact = WorkCopy{text, 0, 0};
+        exactText = text;
     } catch (const RuntimeError&) {
         if (doc && doc->isNotepad())
             return;
@@ -438,12 +448,11 @@ void pageproperties::changeEvent(QEvent* e)
 
 WorkCopy pageproperties::workCopy(RichTextBox* box) const
 {
-    if (box == exactBox && box->text() == asBoxText(exact.text))
-        return exact;
+    // The selection is always the box's own (a search of another window may have moved it).
     WorkCopy w;
-    w.text = box->text();
-    w.selStart = textPosition(box, box->SelStart());
-    w.selLength = textPosition(box, box->SelStart() + box->SelLength()) - w.selStart;
+    w.text = box == exactBox && box->text() == asBoxText(exactText) ? exactText : box->text();
+    w.selStart = textPosition(w.text, box->SelStart());
+    w.selLength = textPosition(w.text, box->SelStart() + box->SelLength()) - w.selStart;
     return w;
 }
 
@@ -462,7 +471,7 @@ bool pageproperties::store(RichTextBox* box, const Result& r)
         select(box, r.copy.text, r.copy.selStart, r.copy.selLength);
     }
     exactBox = box;
-    exact = r.copy;
+    exactText = r.copy.text;
     return r.outcome != Outcome::InvalidProperty;
 }
 
@@ -503,7 +512,6 @@ void pageproperties::Command2_Click()
     select(box, r.copy.text, r.replacedStart, static_cast<int>(r.inserted.size()));
     box->setSelColor(255);
     box->setSelStart(caret);
-    exact = r.copy;
     copyBack();
 }
 

@@ -91,6 +91,7 @@ private:
     void fillNotepadValues(DocumentWindow* doc);
 
     bool activating = false;
+    // The page's text with its own line ends, while the box still holds that text.
     QPointer<RichTextBox> exactBox;
-    PageProperties::WorkCopy exact;
+    QString exactText;
 };
