@@ -119,7 +119,6 @@ constexpr const char* notYetBuilt[] = {
     "HelpSystem",
     "FeedBack",
     "frmUpdate",
-    "pageproperties",
 };
 }
 

@@ -11,6 +11,7 @@
 #include "wizards/emailform.h"
 #include "wizards/lineform.h"
 #include "wizards/marqueeform.h"
+#include "wizards/pageproperties.h"
 
 void registerWizards()
 {
@@ -24,4 +25,5 @@ void registerWizards()
     registerForm<Tableform>();
     registerForm<TableWizard>();
     registerForm<CSVWizard>();
+    registerForm<pageproperties>();
 }
