@@ -7,7 +7,9 @@
 #include "platform/Prompts.h"
 #include "wizards/Html.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -59,6 +61,44 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
     QLineEdit* field = f.text;
     QObject::connect(f.choose, &QPushButton::clicked, parent, Event([field] { chooseFontInto(field); }));
     return f;
+}
+
+LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
+                       const QString& findCaption, const QString& filter)
+{
+    QWidget* parent = rows->parentWidget();
+    LocationField f;
+    f.location = Look::named(new QLineEdit(parent), names.location);
+    f.full = Look::named(new QLineEdit(parent), names.full);
+    f.full->hide();
+    f.find = Look::faceButton(names.find, findCaption, parent);
+    f.find->setAutoDefault(false);
+    f.shorten = Look::named(new QCheckBox(QStringLiteral("Shorten location length"), parent), names.shorten);
+    auto* row = new QHBoxLayout;
+    row->addWidget(f.location, 1);
+    row->addWidget(f.find);
+    rows->addRow(label, row);
+    rows->addRow(QString(), f.shorten);
+    QLineEdit* shown = f.location;
+    QLineEdit* full = f.full;
+    QCheckBox* shorten = f.shorten;
+    QObject::connect(f.find, &QPushButton::clicked, parent, Event([shown, full, shorten, filter] {
+        const QString path = prompts().openFile(QString(), filter, QString());
+        if (path.isEmpty())
+            return;
+        full->setText(path);
+        shown->setText(shorten->isChecked() ? shortLocation(path) : path);
+    }));
+    QObject::connect(f.shorten, &QCheckBox::toggled, parent, Event([shown, full](bool ticked) {
+        shown->setText(ticked ? shortLocation(full->text()) : full->text());
+    }));
+    return f;
+}
+
+QString shortLocation(const QString& fullPath)
+{
+    const QFileInfo file(fullPath);
+    return !fullPath.isEmpty() && file.isFile() ? file.fileName() : QString();
 }
 
 void chooseFontInto(QLineEdit* field)

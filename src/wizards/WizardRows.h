@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class ColourSwatch;
+class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
@@ -66,6 +67,28 @@ struct TableStyle {
     CellTableText::Fields fields() const;
 };
 TableStyle tableStyle(QFormLayout* rows, const QString& borderButton, const QString& backButton, const QString& caption);
+
+// A file location: the field (`Location`), its hidden full-length copy (`location1`), the find
+// button (the file dialog with the given Qt filter; both fields take the chosen path) and the
+// "Shorten location length" box: ticked, the field shows the bare file name of the copy as the
+// directory look-up returns it; cleared, the full path again.
+struct LocationField {
+    QLineEdit* location = nullptr;  // Location
+    QLineEdit* full = nullptr;      // location1
+    QPushButton* find = nullptr;
+    QCheckBox* shorten = nullptr;
+};
+struct LocationNames {
+    QString location = QStringLiteral("Location");
+    QString full = QStringLiteral("location1");
+    QString find;
+    QString shorten;
+};
+LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
+                       const QString& findCaption, const QString& filter);
+// The shortened form of a location: the file's bare name when the file exists, else "" (the
+// look-up finds nothing).
+QString shortLocation(const QString& fullPath);
 
 // The font-size list ("1  (8pt)" ... "7  (36pt)"; default "3  (12pt)").
 QComboBox* fontSize(QFormLayout* rows, const QString& name, const QString& label = QStringLiteral("Size :"));

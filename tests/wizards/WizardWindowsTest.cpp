@@ -13,9 +13,12 @@
 #include "shell/frmMain.h"
 #include "wizards/emailform.h"
 #include "wizards/WizardDialog.h"
+#include "wizards/WizardRows.h"
 #include "wizards/lineform.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -224,4 +227,41 @@ TEST_F(WizardWindowTest, TheBaseDeliversInStepsOrSelectedAndLetsAWizardHandleIts
     EXPECT_EQ(w.failures[0], QStringLiteral("Object doesn't support this property or method"));
     EXPECT_TRUE(w.isVisible()) << "this wizard's failure path does not hide it";
     EXPECT_TRUE(prompts.prompts().isEmpty());
+}
+
+TEST_F(WizardWindowTest, ALocationRowKeepsTheFullPathBehindTheShortenedOne)
+{
+    folder.write(QStringLiteral("site dir/pic, one.gif"), "GIF89a");
+    const QString path = folder.file(QStringLiteral("site dir/pic, one.gif"));
+    QWidget host;
+    auto* rows = new QFormLayout(&host);
+    const auto f = WizardRows::location(rows, {.find = QStringLiteral("find"), .shorten = QStringLiteral("Check2")},
+                                        QStringLiteral("Location :"), QStringLiteral("Find"),
+                                        QStringLiteral("Pictures (*.gif)"));
+    EXPECT_EQ(host.findChild<QLineEdit*>(QStringLiteral("Location")), f.location);
+    EXPECT_EQ(host.findChild<QLineEdit*>(QStringLiteral("location1")), f.full);
+    EXPECT_EQ(f.shorten->text(), QStringLiteral("Shorten location length"));
+
+    prompts.answerOpenFile(path);
+    f.find->click();
+    EXPECT_EQ(prompts.last().kind, QStringLiteral("OpenFile"));
+    EXPECT_EQ(f.location->text(), path);
+    EXPECT_EQ(f.full->text(), path);
+    f.shorten->setChecked(true);
+    EXPECT_EQ(f.location->text(), QStringLiteral("pic, one.gif"));
+    EXPECT_EQ(f.full->text(), path);
+    f.shorten->setChecked(false);
+    EXPECT_EQ(f.location->text(), path);
+
+    // A cancelled dialog changes nothing; a file found while ticked is shown short at once; a
+    // copy that names no file shortens to nothing.
+    prompts.answerOpenFile(QString());
+    f.find->click();
+    EXPECT_EQ(f.full->text(), path);
+    f.shorten->setChecked(true);
+    prompts.answerOpenFile(path);
+    f.find->click();
+    EXPECT_EQ(f.location->text(), QStringLiteral("pic, one.gif"));
+    EXPECT_EQ(WizardRows::shortLocation(folder.file(QStringLiteral("gone.gif"))), QString());
+    EXPECT_EQ(WizardRows::shortLocation(QString()), QString());
 }
