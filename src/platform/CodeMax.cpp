@@ -213,7 +213,8 @@ void CodeMax::setSelText(const QString& text)
         SendScintilla(SCI_TARGETFROMSELECTION);
         SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
     } else {
-        replaceSelectedText(text);
+        // The bytes made above, not a second conversion: a big table goes in once.
+        SendScintilla(SCI_REPLACESEL, 0UL, bytes.constData());
     }
     SendScintilla(SCI_SETSEL, start, start + static_cast<long>(bytes.size()));
     changeDone();

@@ -5,6 +5,7 @@
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
+#include "services/Workspace.h"
 #include "wizards/CsvTableText.h"
 
 #include <QDynamicPropertyChangeEvent>
@@ -14,12 +15,44 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QThread>
+#include <atomic>
 
 namespace {
 const char* const sourceProperty = "sourceFile";
 const QString csvFilter = QStringLiteral("CSV Files (*.csv *.CSV)");
 const QString tabFilter = QStringLiteral("Tab Delinited Files (*.txt *.TXT)");
+
+// The table of the file: run-time error 53 for no plain file (a device or a pipe named here
+// would never end), 75 for one that cannot be read; empty when the progress step stopped it.
+QString tableOf(const QString& path, const CellTableText::Fields& fields, QChar separator,
+                const CsvTableText::Progress& progress = {})
+{
+    if (path.isEmpty() || !QFileInfo(path).isFile())
+        throw RuntimeError::fileNotFound();
+    bool ok = false;
+    QByteArray bytes = TextFiles::readBytes(path, &ok);
+    if (!ok)
+        throw RuntimeError::pathFileAccess();
+    const QString text = TextFiles::decode(bytes);
+    bytes = QByteArray();
+    return CsvTableText::fragment(fields, text, separator, progress);
 }
+
+QString progressText(const QString& path, int percent)
+{
+    return QStringLiteral("Making a table of %1 ... %2 %  (closing the Table Wizard stops it)")
+        .arg(QFileInfo(path).fileName())
+        .arg(percent);
+}
+}
+
+// What the worker thread and the window share: the stop request and the outcome.
+struct CSVWizard::Build {
+    std::atomic<bool> stop = false;
+    QString table;
+    std::shared_ptr<RuntimeError> failure;
+};
 
 CSVWizard::CSVWizard(QWidget* parent) : WizardDialog(QStringLiteral("Table Wizard"), Refusal::None, parent)
 {
@@ -61,25 +94,101 @@ CSVWizard::CSVWizard(QWidget* parent) : WizardDialog(QStringLiteral("Table Wizar
     addCloseButton(QStringLiteral("closeButton"));
 }
 
+CSVWizard::~CSVWizard() { stopBuild(); }
+
 void CSVWizard::insertWith(QChar sep)
 {
     separator = sep;
-    Insert();
+    const QString path = txtlocation->text();
+    const QFileInfo file(path);
+    if (!path.isEmpty() && file.isFile() && file.size() >= backgroundFrom)
+        buildInBackground(path);
+    else
+        Insert();
 }
 
 QString CSVWizard::fragment() const
 {
-    // Only a plain file: a device or a pipe named here would never end.
-    const QString path = txtlocation->text();
-    if (path.isEmpty() || !QFileInfo(path).isFile())
-        throw RuntimeError::fileNotFound();
-    bool ok = false;
-    QByteArray bytes = TextFiles::readBytes(path, &ok);
-    if (!ok)
-        throw RuntimeError::pathFileAccess();
-    QString text = TextFiles::decode(bytes);
-    bytes = QByteArray();
-    return CsvTableText::fragment(style.fields(), text, separator);
+    if (preparedFailure)
+        throw *preparedFailure;
+    if (prepared)
+        return *prepared;
+    return tableOf(txtlocation->text(), style.fields(), separator);
+}
+
+void CSVWizard::buildInBackground(const QString& path)
+{
+    if (worker)
+        return;
+    job = std::make_shared<Build>();
+    auto build = job;
+    const CellTableText::Fields fields = style.fields();
+    const QChar sep = separator;
+    // The window outlives the worker: its destructor stops and waits for it.
+    worker = QThread::create([build, path, fields, sep, this] {
+        int shown = -1;
+        const auto progress = [&](int percent) {
+            if (percent != shown) {
+                shown = percent;
+                // A word that arrives after the build has ended says nothing.
+                QMetaObject::invokeMethod(this, [this, build, path, percent] {
+                    if (job == build)
+                        setStatusText(1, progressText(path, percent));
+                },
+                                          Qt::QueuedConnection);
+            }
+            return !build->stop.load();
+        };
+        try {
+            build->table = tableOf(path, fields, sep, progress);
+        } catch (const RuntimeError& e) {
+            build->failure = std::make_shared<RuntimeError>(e);
+        }
+    });
+    connect(worker, &QThread::finished, this, &CSVWizard::buildFinished);
+    activeBefore = {Command2->isEnabled(), Command3->isEnabled()};
+    for (QPushButton* b : {Command1, Command2, Command3})
+        b->setEnabled(false);
+    setStatusText(1, progressText(path, 0));
+    worker->start();
+}
+
+void CSVWizard::buildFinished()
+{
+    if (!worker)
+        return;
+    worker->wait();
+    worker->deleteLater();
+    worker = nullptr;
+    const std::shared_ptr<Build> build = std::exchange(job, nullptr);
+    Command1->setEnabled(true);
+    setActive(activeBefore.first, activeBefore.second);
+    if (build->stop) {
+        setStatusText(1, QStringLiteral("The table was not made: the Table Wizard was closed."));
+        return;
+    }
+    setStatusText(1, QString());
+    prepared = std::move(build->table);
+    preparedFailure = build->failure;
+    Insert();
+    prepared.reset();
+    preparedFailure.reset();
+}
+
+void CSVWizard::stopBuild()
+{
+    if (!worker)
+        return;
+    job->stop = true;
+    // The walk looks at the stop request every few thousand cells, so this wait is short.
+    worker->wait();
+    buildFinished();
+}
+
+void CSVWizard::hideEvent(QHideEvent* e)
+{
+    stopBuild();
+    WizardDialog::hideEvent(e);
 }
 
 bool CSVWizard::takeSourceFile()

@@ -4,6 +4,7 @@
 #include <QChar>
 #include <QString>
 #include <QStringView>
+#include <functional>
 
 // The table of a comma-separated or tab-delimited text.
 namespace CsvTableText {
@@ -19,5 +20,9 @@ qsizetype fieldCount(QStringView text, QChar separator);
 // nothing follows the text's last line end. A line is split at every separator (quotes mean
 // nothing; an empty line has no fields) and gives at most F + 1 of its fields as cells, with
 // no padding. Linear in the text: the result is measured first and built in one piece.
-QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator);
+//
+// With a progress step, the build tells now and then how far it has come (0 to 100 over both
+// passes); a step that answers false stops it, and the result is empty.
+using Progress = std::function<bool(int percent)>;
+QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress = {});
 }

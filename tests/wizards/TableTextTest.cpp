@@ -4,6 +4,8 @@
 #include "wizards/CsvTableText.h"
 #include "wizards/TableText.h"
 
+#include <QList>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -229,4 +231,31 @@ TEST(CsvTableText, FieldCountFromTheFirstLine)
     };
     for (const auto& c : cases)
         EXPECT_EQ(CsvTableText::fieldCount(u(c.text), c.separator), c.count) << c.text;
+}
+
+TEST(CsvTableText, ProgressIsToldAndCanStopTheBuild)
+{
+    // Many short lines and one long line: both report as they go.
+    const QString manyLines = QString(u("a,b,c\r\n")).repeated(100000);
+    const QString oneLine = QString(u("field,")).repeated(100000);
+    for (const QString& text : {manyLines, oneLine}) {
+        QList<int> told;
+        const QString table = CsvTableText::fragment({}, text, CsvTableText::comma, [&](int percent) {
+            told << percent;
+            return true;
+        });
+        EXPECT_EQ(table, CsvTableText::fragment({}, text, CsvTableText::comma)) << "the same table with progress";
+        ASSERT_GE(told.size(), 4);
+        EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+        EXPECT_GE(told.front(), 0);
+        EXPECT_LE(told.back(), 100);
+        EXPECT_GE(told.back(), 50) << "the second pass reports too";
+
+        // A stop in either pass gives nothing.
+        for (int stopAt : {1, 3}) {
+            int calls = 0;
+            EXPECT_EQ(CsvTableText::fragment({}, text, CsvTableText::comma, [&](int) { return ++calls < stopAt; }), QString());
+            EXPECT_EQ(calls, stopAt) << "no step after the stop";
+        }
+    }
 }

@@ -488,3 +488,54 @@ TEST_F(TableWizardsTest, CsvWizardBadFiles)
     }
     EXPECT_TRUE(prompts.prompts().isEmpty());
 }
+
+// A big file is made a table on a worker thread: the status line tells how far it has come,
+// the buttons wait, and closing the window stops the build with nothing inserted.
+TEST_F(TableWizardsTest, CsvWizardMakesABigFileATableInTheBackground)
+{
+    frmDocument* page = newPage();
+    folder.write(QStringLiteral("big.csv"), QByteArray("a,b\r\n").repeated(20000));
+    const qint64 held = CSVWizard::backgroundFrom;
+    CSVWizard::backgroundFrom = 1024;
+    frmMain* main = frmMain::instance();
+
+    CSVWizard* w = openWithFile(QStringLiteral("Insert .CSV File"), folder.file(QStringLiteral("big.csv")));
+    ASSERT_NE(w, nullptr);
+    w->Command2->click();
+    EXPECT_TRUE(w->building());
+    EXPECT_FALSE(w->Command1->isEnabled());
+    EXPECT_FALSE(w->Command2->isEnabled());
+    EXPECT_TRUE(main->statusText(1).startsWith(QStringLiteral("Making a table of big.csv ... ")))
+        << main->statusText(1).toStdString();
+    EXPECT_TRUE(main->statusText(1).endsWith(QStringLiteral(" %  (closing the Table Wizard stops it)")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !w->building(); }, 20000));
+    EXPECT_EQ(page->CodeMax1()->text(),
+              u(fileTableTag) + u("\r\n<tr>\r\n<td>a</td>\r\n<td>b</td>\r\n</tr>\r\n").repeated(20000) + u("</table>\r\n"));
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_EQ(main->statusText(1), QString());
+
+    // Closed before the build is taken in: nothing goes in, the buttons are as they were.
+    page->CodeMax1()->setText(QString());
+    w = openWithFile(QStringLiteral("Insert .CSV File"), folder.file(QStringLiteral("big.csv")));
+    w->Command2->click();
+    QTest::keyClick(w, Qt::Key_Escape);
+    EXPECT_FALSE(w->building());
+    EXPECT_FALSE(w->isVisible());
+    processEvents();
+    EXPECT_EQ(page->CodeMax1()->text(), QString());
+    EXPECT_EQ(main->statusText(1), QStringLiteral("The table was not made: the Table Wizard was closed."));
+    EXPECT_TRUE(w->Command1->isEnabled());
+    EXPECT_TRUE(w->Command2->isEnabled());
+    EXPECT_FALSE(w->Command3->isEnabled());
+
+    // Without a document the background build ends on the failure path, silently.
+    page->Changedvalue()->setText(QString());
+    page->close();
+    processEvents();
+    w = openWithFile(QStringLiteral("Insert .CSV File"), folder.file(QStringLiteral("big.csv")));
+    w->Command2->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !w->building(); }, 20000));
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_TRUE(prompts.prompts().size() == 3) << "only the three file choosers";
+    CSVWizard::backgroundFrom = held;
+}
