@@ -2,6 +2,7 @@
 
 #include "documents/Registration.h"
 #include "ftp/Registration.h"
+#include "pagetools/Registration.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
 #include "report/Registration.h"
@@ -29,6 +30,7 @@ void registerEverything()
     registerReport();
     registerFtp();
     registerWizards();
+    registerPagetools();
     // Last: the menu's own branches fill in what the features have not claimed.
     registerShell();
 }

@@ -18,6 +18,7 @@ struct RuntimeError : std::exception {
     static RuntimeError overflow(const QString& src = {});         // 6
     static RuntimeError divisionByZero(const QString& src = {});   // 11
     static RuntimeError typeMismatch(const QString& src = {});     // 13
+    static RuntimeError badFileName(const QString& src = {});      // 52
     static RuntimeError fileNotFound(const QString& src = {});     // 53
     static RuntimeError deviceIoError(const QString& src = {});    // 57
     static RuntimeError fileAlreadyExists(const QString& src = {}); // 58

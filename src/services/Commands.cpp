@@ -92,7 +92,6 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
 // list and the registered forms is a misspelling, which a test catches.
 constexpr const char* notYetBuilt[] = {
     "SiteManagment",
-    "Quick",
     "frmCSSCreate",
     "Templates",
     "sourcepage",

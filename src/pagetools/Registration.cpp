@@ -1,0 +1,6 @@
+#include "pagetools/Registration.h"
+
+#include "pagetools/Quick.h"
+#include "platform/Forms.h"
+
+void registerPagetools() { registerForm<Quick>(); }

@@ -1,0 +1,4 @@
+#pragma once
+
+// The page tools' windows.
+void registerPagetools();
