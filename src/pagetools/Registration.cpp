@@ -1,6 +1,11 @@
 #include "pagetools/Registration.h"
 
+#include "pagetools/GifLoader.h"
 #include "pagetools/Quick.h"
 #include "platform/Forms.h"
 
-void registerPagetools() { registerForm<Quick>(); }
+void registerPagetools()
+{
+    registerForm<Quick>();
+    registerForm<GifLoader>();
+}

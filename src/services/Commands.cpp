@@ -113,7 +113,6 @@ constexpr const char* notYetBuilt[] = {
     "CSSCREATE",
     "frmscrollbar",
     "FormDesign",
-    "GifLoader",
     "StyleLink",
     "HelpSystem",
     "FeedBack",

@@ -21,8 +21,11 @@ int main(int argc, char** argv)
     // Nothing a test does may start a browser, a file manager or another program.
     refuseDesktop();
     // Downloads go to TEMP: a folder of this process's own, so that test programs running side
-    // by side never write the same file.
-    QTemporaryDir temp;
+    // by side never write the same file. A child that a test starts (and may kill) makes its
+    // folder inside its parent's, which the parent removes with its own.
+    const QString parent = qEnvironmentVariable("VELLORO_TEST_TEMP");
+    QTemporaryDir temp = parent.isEmpty() ? QTemporaryDir() : QTemporaryDir(parent + QStringLiteral("/child-XXXXXX"));
     qputenv("TEMP", temp.path().toUtf8());
+    qputenv("VELLORO_TEST_TEMP", temp.path().toUtf8());
     return RUN_ALL_TESTS();
 }
