@@ -33,6 +33,7 @@ bench: build
 	$(BUILD)/bench/bench_colouring
 	$(BUILD)/bench/bench_report
 	$(BUILD)/bench/bench_tables
+	$(BUILD)/bench/bench_gallery
 	bench/spelling.sh $(BUILD)
 	$(BUILD)/bench/bench_spelling
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing

@@ -2,7 +2,7 @@
 // of 10 fields opened through the menu entry, timed from the click on the comma button to the
 // table standing in the page's editor. And the builder alone on the inputs that must not stall
 // it: one line of 200 MB, and 2 million short lines.
-#include "app/Main.h"
+#include "ProgramBench.h"
 #include "documents/frmDocument.h"
 #include "platform/App.h"
 #include "platform/Application.h"
@@ -212,20 +212,9 @@ int main(int argc, char** argv)
     VelloroApplication app(argc, argv);
     QTemporaryDir dir;
     folder = &dir;
-    App::setPathForTesting(dir.path());
-    QDir().mkpath(dir.filePath(QStringLiteral("Options")));
-    // Settings without a first page or start screen.
-    QFile details(dir.filePath(QStringLiteral("Options/Details.dat")));
-    details.open(QIODevice::WriteOnly);
-    details.write("0\r\n1\r\n0\r\n0\r\n\"Maximized\"\r\n\"c:\\Velloro\\\"\r\n\"65\"\r\n\"HTML\"\r\n255\r\n\"#FF0000\"\r\n"
-                  "16711680\r\n\"#0000FF\"\r\n65280\r\n\"#00FF00\"\r\n\"Arial\"\r\n\"5\"\r\n\"MS Sans Serif\"\r\n\"8\"\r\n"
-                  "\"Script\"\r\n\"12\"\r\n\"Comic Sans MS\"\r\n\"14\"\r\n\"Lucida Console\"\r\n\"18\"\r\n"
-                  "\"Trebuchet MS\"\r\n\"24\"\r\n\".htm\"\r\n\".htm\"\r\n1\r\n");
-    details.close();
-    ScriptedPrompts::setFailureHandler([](const QString&) {});
     ScriptedPrompts scripted;
     scriptedPrompts = &scripted;
-    Main();
+    ProgramBench::start(dir);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -1,6 +1,7 @@
 // Sustained typing in a split window, whose preview follows the text: the editor must keep up
 // with the keys while the browser may lag behind. Each iteration types one key and lets the
 // event loop run, as a user's key would. And a big page opened, jumped to its end and typed in.
+#include "ProgramBench.h"
 #include "AnchorPages.h"
 #include "documents/OpenSave.h"
 #include "documents/frmsplit.h"
@@ -8,7 +9,6 @@
 #include "platform/Application.h"
 #include "platform/CodeMax.h"
 #include "platform/ScriptedPrompts.h"
-#include "app/Main.h"
 #include "shell/modMain.h"
 #include "shell/frmMain.h"
 
@@ -204,19 +204,8 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     VelloroApplication app(argc, argv);
     QTemporaryDir folder;
-    App::setPathForTesting(folder.path());
-    QDir().mkpath(folder.filePath(QStringLiteral("Options")));
-    // Settings without a first page or start screen.
-    QFile details(folder.filePath(QStringLiteral("Options/Details.dat")));
-    details.open(QIODevice::WriteOnly);
-    details.write("0\r\n1\r\n0\r\n0\r\n\"Maximized\"\r\n\"c:\\Velloro\\\"\r\n\"65\"\r\n\"HTML\"\r\n255\r\n\"#FF0000\"\r\n"
-                  "16711680\r\n\"#0000FF\"\r\n65280\r\n\"#00FF00\"\r\n\"Arial\"\r\n\"5\"\r\n\"MS Sans Serif\"\r\n\"8\"\r\n"
-                  "\"Script\"\r\n\"12\"\r\n\"Comic Sans MS\"\r\n\"14\"\r\n\"Lucida Console\"\r\n\"18\"\r\n"
-                  "\"Trebuchet MS\"\r\n\"24\"\r\n\".htm\"\r\n\".htm\"\r\n1\r\n");
-    details.close();
-    ScriptedPrompts::setFailureHandler([](const QString&) {});
     ScriptedPrompts prompts;
-    Main();
+    ProgramBench::start(folder);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
