@@ -1,10 +1,11 @@
 #include "pagetools/Quick.h"
 
+#include "pagetools/IndexPanel.h"
 #include "pagetools/QuickNotes.h"
+#include "platform/FileControls.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
-#include "platform/FileControls.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
@@ -18,10 +19,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QRadioButton>
+#include <QMenu>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -32,7 +32,7 @@ CodeMax* noteEditor(const QString& name, QWidget* parent)
     return editor;
 }
 
-// A titled group around one widget and what stands below it.
+// A titled group around the widgets, one below the other.
 QGroupBox* group(const QString& title, QWidget* parent, std::initializer_list<QWidget*> widgets)
 {
     auto* box = new QGroupBox(title, parent);
@@ -49,39 +49,14 @@ Quick::Quick(QWidget* parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("View/Save Quick Note's"));
     resize(820, 600);
 
-    // The index: the folder's files (never shown), every name, and the names the search kept.
-    File1 = Look::named(new FileListBox(this), QStringLiteral("File1"));
-    File1->hide();
-    List1 = Look::named(new QListWidget(this), QStringLiteral("List1"));
-    List1->hide();
-    List2 = Look::named(new QListWidget(this), QStringLiteral("List2"));
-
-    Text1 = Look::named(new QLineEdit(this), QStringLiteral("Text1"));
+    // The index: every note file by its name, ".dat" and all.
+    index = new IndexPanel(QStringLiteral("Stored Quick Notes ::"), [](const QString& file) { return file; }, this);
     auto* searchNote = new QLabel(QStringLiteral("Note you can search this blank to retrieve all Note's"), this);
     searchNote->setWordWrap(true);
-    Option1 = Look::named(new QRadioButton(QStringLiteral("Partial word"), this), QStringLiteral("Option1"));
-    Option2 = Look::named(new QRadioButton(QStringLiteral("Exact Word"), this), QStringLiteral("Option2"));
-    Option1->setChecked(true);
-    SmartNetButton2 = Look::faceButton(QStringLiteral("SmartNetButton2"), QStringLiteral("Search"), this);
-    Bar = Look::named(new QProgressBar(this), QStringLiteral("Bar"));
-    Bar->setTextVisible(false);
-    Bar->setMaximumHeight(12);
     SmartNetButton3 = Look::faceButton(QStringLiteral("SmartNetButton3"), QStringLiteral("Help"), this);
-
-    // The search box with its button, the two kinds of match below.
-    auto* searchRow = new QWidget(this);
-    auto* searchLayout = new QHBoxLayout(searchRow);
-    searchLayout->setContentsMargins(0, 0, 0, 0);
-    searchLayout->addWidget(Text1, 1);
-    searchLayout->addWidget(SmartNetButton2);
-    auto* options = new QWidget(this);
-    auto* optionRow = new QHBoxLayout(options);
-    optionRow->setContentsMargins(0, 0, 0, 0);
-    optionRow->addWidget(Option1);
-    optionRow->addWidget(Option2);
-    optionRow->addStretch();
-    auto* left = group(QStringLiteral("Stored Quick Notes ::"), this, {List2, searchRow, searchNote, options, Bar, SmartNetButton3});
-    left->setFixedWidth(290);
+    index->column()->insertWidget(2, searchNote);
+    index->column()->addWidget(SmartNetButton3);
+    index->setFixedWidth(290);
 
     CodeMax1 = noteEditor(QStringLiteral("CodeMax1"), this);
     count1 = Look::named(new QLabel(this), QStringLiteral("count1"));
@@ -103,23 +78,22 @@ Quick::Quick(QWidget* parent) : QDialog(parent)
     right->addWidget(opened, 1);
     right->addWidget(created, 1);
     auto* outer = new QHBoxLayout(this);
-    outer->addWidget(left);
+    outer->addWidget(index);
     outer->addLayout(right, 1);
 
     SmartMenuXP1 = editingMenu(QStringLiteral("SmartMenuXP1"), CodeMax1);
     SmartMenuXP2 = editingMenu(QStringLiteral("SmartMenuXP2"), CodeMax2);
 
-    connect(List2, &QListWidget::itemDoubleClicked, this, Event([this] { List2_DblClick(); }));
+    connect(index, &IndexPanel::rowActivated, this, Event([this] { List2_DblClick(); }));
     connect(SmartNetButton1, &QPushButton::clicked, this, Event([this] { SmartNetButton1_Click(); }));
-    connect(SmartNetButton2, &QPushButton::clicked, this, Event([this] { SmartNetButton2_Click(); }));
     connect(SmartNetButton3, &QPushButton::clicked, this, Event([this] { SmartNetButton3_Click(); }));
     connect(CodeMax1, &CodeMax::Change, this, [this] { showCount(count1, CodeMax1); });
     connect(CodeMax2, &CodeMax::Change, this, [this] { showCount(count2, CodeMax2); });
-    // Enter in the search box searches; nothing in this window is a default button.
-    connect(Text1, &QLineEdit::returnPressed, this, Event([this] { SmartNetButton2_Click(); }));
-    for (QPushButton* b : {SmartNetButton1, SmartNetButton2, SmartNetButton3})
+    // Nothing in this window is a default button: Enter belongs to the search box and the editors.
+    for (QPushButton* b : {SmartNetButton1, SmartNetButton3})
         b->setAutoDefault(false);
-    const QList<QWidget*> order = {Text1, Option1, Option2, SmartNetButton2, List2, CodeMax1, CodeMax2, txtname, SmartNetButton1};
+    const QList<QWidget*> order = {index->List2, index->Text1, index->SmartNetButton2, index->Option1, index->Option2,
+                                   SmartNetButton3, CodeMax1, CodeMax2, txtname, SmartNetButton1};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
     showCount(count1, CodeMax1);
@@ -130,24 +104,14 @@ void Quick::Form_Load() { fillLists(); }
 
 QString Quick::folder() { return App::path() + QStringLiteral("/Notes"); }
 
-void Quick::fillLists()
-{
-    File1->refresh();
-    List1->clear();
-    List2->clear();
-    File1->setPath(folder());
-    for (int i = 0; i < File1->count(); ++i) {
-        List1->addItem(File1->item(i)->text());
-        List2->addItem(File1->item(i)->text());
-    }
-}
+void Quick::fillLists() { index->fill(folder()); }
 
 void Quick::List2_DblClick()
 {
-    const QListWidgetItem* row = List2->currentItem();
-    if (!row || row->text().isEmpty())
+    const QString row = index->chosenRow();
+    if (row.isEmpty())
         return;
-    CodeMax1->OpenFile(folder() + QLatin1Char('/') + row->text());
+    CodeMax1->OpenFile(folder() + QLatin1Char('/') + row);
 }
 
 void Quick::SmartNetButton1_Click()
@@ -161,12 +125,11 @@ void Quick::SmartNetButton1_Click()
     // the creation of such a file does.
     if (!QuickNotes::isFileName(name))
         throw RuntimeError::badFileName(QStringLiteral("Quick"));
+    // The folder as it stands now, not as the list last saw it.
+    index->File1->refresh();
     QStringList files;
-    for (int i = 0; i < List1->count(); ++i)
-        files << List1->item(i)->text();
-    File1->refresh();
-    for (int i = 0; i < File1->count(); ++i)
-        files << File1->item(i)->text();
+    for (int i = 0; i < index->File1->count(); ++i)
+        files << index->File1->item(i)->text();
     if (QuickNotes::isStored(files, name)) {
         MsgBox(QStringLiteral("There is allready a note saved as that, change the name and try again."));
         return;
@@ -176,19 +139,6 @@ void Quick::SmartNetButton1_Click()
     CodeMax2->SaveFile(QuickNotes::notePath(folder(), name), true);
     MsgBox(QStringLiteral("Note has been saved and added to the left menu."));
     fillLists();
-}
-
-void Quick::SmartNetButton2_Click()
-{
-    QStringList rows;
-    for (int i = 0; i < List1->count(); ++i)
-        rows << List1->item(i)->text();
-    Bar->setRange(0, qMax(1, int(rows.size())));
-    Bar->setValue(0);
-    List2->clear();
-    const auto match = Option2->isChecked() ? QuickNotes::Match::Exact : QuickNotes::Match::Partial;
-    List2->addItems(QuickNotes::search(rows, Text1->text(), match));
-    Bar->setValue(int(rows.size()));
 }
 
 void Quick::SmartNetButton3_Click()

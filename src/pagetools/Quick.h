@@ -4,14 +4,11 @@
 #include <QDialog>
 
 class CodeMax;
-class FileListBox;
+class IndexPanel;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QMenu;
-class QProgressBar;
 class QPushButton;
-class QRadioButton;
 
 // "View/Save Quick Note's": small pieces of code kept under a name in the notes folder, found
 // again by a search over the names, opened with a double click.
@@ -27,17 +24,15 @@ public:
     void fillLists();
     void List2_DblClick();
     void SmartNetButton1_Click();  // save the new note
-    void SmartNetButton2_Click();  // search
     void SmartNetButton3_Click();  // help
 
-    QListWidget *List1 = nullptr, *List2 = nullptr;
-    FileListBox* File1 = nullptr;
-    QLineEdit *Text1 = nullptr, *txtname = nullptr;
-    QRadioButton *Option1 = nullptr, *Option2 = nullptr;
-    QProgressBar* Bar = nullptr;
+    // The notes' index: List1, List2, File1, Text1, Option1, Option2, Bar and the search
+    // button SmartNetButton2.
+    IndexPanel* index = nullptr;
+    QLineEdit* txtname = nullptr;
     CodeMax *CodeMax1 = nullptr, *CodeMax2 = nullptr;
     QMenu *SmartMenuXP1 = nullptr, *SmartMenuXP2 = nullptr;
-    QPushButton *SmartNetButton1 = nullptr, *SmartNetButton2 = nullptr, *SmartNetButton3 = nullptr;
+    QPushButton *SmartNetButton1 = nullptr, *SmartNetButton3 = nullptr;
     // The count line beside each editor.
     QLabel *count1 = nullptr, *count2 = nullptr;
 

@@ -1,6 +1,7 @@
 #include "pagetools/Registration.h"
 
 #include "pagetools/GifLoader.h"
+#include "pagetools/HelpSystem.h"
 #include "pagetools/Quick.h"
 #include "platform/Forms.h"
 
@@ -8,4 +9,5 @@ void registerPagetools()
 {
     registerForm<Quick>();
     registerForm<GifLoader>();
+    registerForm<HelpSystem>();
 }

@@ -86,6 +86,8 @@ BrowserView* WebBrowser::pageView()
     view->setZoomFactor(zoomFactor);
     view->onLinkHovered = [this](const QString& url) { Q_EMIT StatusTextChange(url); };
     view->onLoadFinished = [this](const QUrl& url) {
+        // Back and forward move the location too.
+        location = url;
         Q_EMIT NavigateComplete(url);
         Q_EMIT StatusTextChange(QStringLiteral("Done"));
     };

@@ -114,7 +114,6 @@ constexpr const char* notYetBuilt[] = {
     "frmscrollbar",
     "FormDesign",
     "StyleLink",
-    "HelpSystem",
     "FeedBack",
     "frmUpdate",
 };

@@ -2,6 +2,7 @@
 // a stored note, never outside the folder, whole or not at all), search and open.
 #include "common/TestSupport.h"
 
+#include "pagetools/IndexPanel.h"
 #include "pagetools/Quick.h"
 #include "platform/CodeMax.h"
 #include "platform/Forms.h"
@@ -58,12 +59,12 @@ TEST_F(QuickTest, OpensWithTheFolderAsItsIndex)
     saveShot(w, QStringLiteral("Quick"));
     EXPECT_EQ(w->windowTitle(), QStringLiteral("View/Save Quick Note's"));
     const QStringList both = {QStringLiteral("Anchor.dat"), QStringLiteral("table row.dat")};
-    EXPECT_EQ(rows(w->List1), both);
-    EXPECT_EQ(rows(w->List2), both);
-    EXPECT_FALSE(w->List1->isVisible());
-    EXPECT_TRUE(w->Option1->isChecked());
-    EXPECT_EQ(w->Option1->text(), QStringLiteral("Partial word"));
-    EXPECT_EQ(w->Option2->text(), QStringLiteral("Exact Word"));
+    EXPECT_EQ(rows(w->index->List1), both);
+    EXPECT_EQ(rows(w->index->List2), both);
+    EXPECT_FALSE(w->index->List1->isVisible());
+    EXPECT_TRUE(w->index->Option1->isChecked());
+    EXPECT_EQ(w->index->Option1->text(), QStringLiteral("Partial word"));
+    EXPECT_EQ(w->index->Option2->text(), QStringLiteral("Exact Word"));
     bool labelled = false;
     for (const QLabel* l : w->findChildren<QLabel*>())
         labelled |= l->text() == QStringLiteral("Note you can search this blank to retrieve all Note's");
@@ -77,7 +78,7 @@ TEST_F(QuickTest, OpensWithTheFolderAsItsIndex)
     EXPECT_TRUE(w->isVisible());
 
     // A double click opens a note into the upper editor; the count follows.
-    w->List2->setCurrentRow(0);
+    w->index->List2->setCurrentRow(0);
     w->List2_DblClick();
     EXPECT_EQ(w->CodeMax1->text(), QStringLiteral("<a href=\"\"></a>\r\n"));
     processEvents();
@@ -100,7 +101,7 @@ TEST_F(QuickTest, SavesANewNoteWholeAndNeverOverAStoredOne)
     w->SmartNetButton1->click();
     EXPECT_TRUE(isBox(prompts.last(), saved, 0));
     EXPECT_EQ(folder.read(QStringLiteral("Notes/Para.dat")), QByteArray("<p>\xc3\xbcn\xc3\xaf</p>\r\n<br>"));
-    EXPECT_EQ(rows(w->List2), (QStringList{QStringLiteral("Anchor.dat"), QStringLiteral("Para.dat"), QStringLiteral("table row.dat")}));
+    EXPECT_EQ(rows(w->index->List2), (QStringList{QStringLiteral("Anchor.dat"), QStringLiteral("Para.dat"), QStringLiteral("table row.dat")}));
 
     // The same name in other letters is the same note: refused, and the stored one kept.
     w->CodeMax2->setText(QStringLiteral("other"));
@@ -119,8 +120,8 @@ TEST_F(QuickTest, SavesANewNoteWholeAndNeverOverAStoredOne)
     prompts.answerMsgBox(Answer::OK);
     w->SmartNetButton1->click();
     EXPECT_TRUE(isBox(prompts.last(), saved, 0));
-    w->List2->setCurrentRow(1);
-    ASSERT_EQ(w->List2->currentItem()->text(), QStringLiteral("big.dat"));
+    w->index->List2->setCurrentRow(1);
+    ASSERT_EQ(w->index->List2->currentItem()->text(), QStringLiteral("big.dat"));
     w->List2_DblClick();
     EXPECT_TRUE(w->CodeMax1->text() == big);
 }
@@ -155,24 +156,24 @@ TEST_F(QuickTest, SearchesTheNamesAndTellsItsHelp)
 {
     Quick* w = open();
     ASSERT_NE(w, nullptr);
-    w->Text1->setText(QStringLiteral("ROW"));
-    w->SmartNetButton2->click();
-    EXPECT_EQ(rows(w->List2), QStringList{QStringLiteral("table row.dat")});
-    EXPECT_EQ(w->Bar->maximum(), 2);
-    EXPECT_EQ(w->Bar->value(), 2);
+    w->index->Text1->setText(QStringLiteral("ROW"));
+    w->index->SmartNetButton2->click();
+    EXPECT_EQ(rows(w->index->List2), QStringList{QStringLiteral("table row.dat")});
+    EXPECT_EQ(w->index->Bar->maximum(), 2);
+    EXPECT_EQ(w->index->Bar->value(), 2);
 
-    w->Option2->setChecked(true);
-    w->Text1->setText(QStringLiteral("Anchor"));
-    QTest::keyClick(w->Text1, Qt::Key_Return);  // Enter in the search box searches
-    EXPECT_TRUE(rows(w->List2).isEmpty()) << "the exact word is the whole row";
-    w->Text1->setText(QStringLiteral("Anchor.dat"));
-    w->SmartNetButton2->click();
-    EXPECT_EQ(rows(w->List2), QStringList{QStringLiteral("Anchor.dat")});
+    w->index->Option2->setChecked(true);
+    w->index->Text1->setText(QStringLiteral("Anchor"));
+    QTest::keyClick(w->index->Text1, Qt::Key_Return);  // Enter in the search box searches
+    EXPECT_TRUE(rows(w->index->List2).isEmpty()) << "the exact word is the whole row";
+    w->index->Text1->setText(QStringLiteral("Anchor.dat"));
+    w->index->SmartNetButton2->click();
+    EXPECT_EQ(rows(w->index->List2), QStringList{QStringLiteral("Anchor.dat")});
 
-    w->Option1->setChecked(true);
-    w->Text1->clear();
-    w->SmartNetButton2->click();
-    EXPECT_EQ(rows(w->List2).size(), 2) << "an empty search gives the whole list";
+    w->index->Option1->setChecked(true);
+    w->index->Text1->clear();
+    w->index->SmartNetButton2->click();
+    EXPECT_EQ(rows(w->index->List2).size(), 2) << "an empty search gives the whole list";
     EXPECT_TRUE(w->isVisible()) << "Enter did not close the window";
 
     prompts.answerMsgBox(Answer::OK);
