@@ -6,7 +6,7 @@ CMAKE_ARGS ?=
 
 TEST_ENV = QT_QPA_PLATFORM=offscreen QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" QTWEBENGINE_DISABLE_SANDBOX=1
 
-.PHONY: all deps configure build run test bench fuzz check-asan clean icons
+.PHONY: all deps configure build run test bench fuzz check-asan clean icons sitepictures
 
 all: build
 
@@ -63,6 +63,12 @@ check-asan: deps
 icons: configure
 	cmake --build $(BUILD) -j$(JOBS) --target iconmaker
 	$(BUILD)/tools/icons/iconmaker data/Options/Images tools/icons/icons.txt --sheet $(BUILD)/icon-sheet
+
+# Redraws the pictures of the personal site template (data/Templates/Advanced/Sites/Personal).
+# Like the icons they are kept in the repository, so an ordinary build never runs this.
+sitepictures: configure
+	cmake --build $(BUILD) -j$(JOBS) --target sitepictures
+	$(BUILD)/tools/sitepictures/sitepictures data/Templates/Advanced/Sites/Personal
 
 clean:
 	rm -rf $(BUILD) build-asan build-fuzz
