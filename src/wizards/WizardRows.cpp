@@ -13,17 +13,37 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <limits>
 
 namespace WizardRows {
 
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text)
 {
-    auto* edit = Look::named(new QLineEdit(text, rows->parentWidget()), name);
+    QLineEdit* edit = field(rows->parentWidget(), name, text);
     rows->addRow(label, edit);
     return edit;
 }
+
+QLineEdit* field(QWidget* parent, const QString& name, const QString& text)
+{
+    auto* edit = Look::named(new QLineEdit(parent), name);
+    edit->setMaxLength(std::numeric_limits<int>::max());
+    edit->setText(text);
+    return edit;
+}
+
+QPlainTextEdit* textBox(QWidget* parent, const QString& name)
+{
+    auto* box = Look::named(new QPlainTextEdit(parent), name);
+    box->setTabChangesFocus(true);
+    return box;
+}
+
+QString pageText(const QPlainTextEdit* box) { return box->toPlainText().replace(QLatin1Char('\n'), Html::crlf); }
 
 ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
                    const QString& label, const QString& text, const QString& caption)
@@ -111,6 +131,8 @@ QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, co
 {
     auto* box = Look::named(new QComboBox(rows->parentWidget()), name);
     box->setEditable(true);
+    // Enter runs the load button; what was typed is the value, not a new row of the list.
+    box->setInsertPolicy(QComboBox::NoInsert);
     box->addItems(items);
     box->setCurrentText(text);
     rows->addRow(label, box);
