@@ -42,6 +42,8 @@ DropMenuForm::DropMenuForm(const QString& caption, const QString& exampleText, c
     List1->hide();
     List2->hide();
     Combo1 = WizardRows::list(rows(), QStringLiteral("Combo1"), QStringLiteral("Example :"), {}, exampleText);
+    // It starts without rows, which would leave it too narrow for its own text.
+    Combo1->setMinimumContentsLength(16);
     Text4 = WizardRows::field(this, QStringLiteral("Text4"), workingText);
     Text4->hide();
 }
