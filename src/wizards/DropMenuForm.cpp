@@ -7,7 +7,6 @@
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -29,12 +28,8 @@ DropMenuForm::DropMenuForm(const QString& caption, const QString& exampleText, c
 {
     Text1 = WizardRows::line(rows(), QStringLiteral("Text1"), QStringLiteral("Menu Text :"));
     Text2 = WizardRows::field(this, QStringLiteral("Text2"), linkStart);
-    Command2 = Look::faceButton(QStringLiteral("Command2"), QStringLiteral("Add"), this);
-    Command2->setAutoDefault(false);
-    auto* linkRow = new QHBoxLayout;
-    linkRow->addWidget(Text2, 1);
-    linkRow->addWidget(Command2);
-    rows()->addRow(QStringLiteral("Hyperlink For Text : (Must include the HTTP://)"), linkRow);
+    Command2 = WizardRows::withButton(rows(), QStringLiteral("Hyperlink For Text : (Must include the HTTP://)"), Text2,
+                                      QStringLiteral("Command2"), QStringLiteral("Add"));
     connect(Command2, &QPushButton::clicked, this, Event([this] { addEntry(); }));
 
     List1 = Look::named(new QListWidget(this), QStringLiteral("List1"));

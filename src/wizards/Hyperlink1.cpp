@@ -17,12 +17,7 @@ Hyperlink1::Hyperlink1(QWidget* parent) : WizardDialog(QStringLiteral("Hyperlink
 {
     const HyperlinkText::Fields defaults;
     Link = WizardRows::field(this, QStringLiteral("Link"));
-    Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Find"), this);
-    Command1->setAutoDefault(false);
-    auto* linkRow = new QHBoxLayout;
-    linkRow->addWidget(Link, 1);
-    linkRow->addWidget(Command1);
-    rows()->addRow(QStringLiteral("Link :"), linkRow);
+    Command1 = WizardRows::withButton(rows(), QStringLiteral("Link :"), Link, QStringLiteral("Command1"), QStringLiteral("Find"));
     connect(Command1, &QPushButton::clicked, this, Event([this] {
         const QString path = prompts().openFile(QString(), QStringLiteral("Web Files (*.htm*)"), QString());
         if (!path.isEmpty())

@@ -24,6 +24,10 @@ QLineEdit* field(QWidget* parent, const QString& name, const QString& text = {})
 // The same in a labelled row of its own.
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text = {});
 
+// A row of a field and a button behind it (a button that Enter does not press).
+QPushButton* withButton(QFormLayout* rows, const QString& label, QWidget* field, const QString& buttonName,
+                        const QString& caption);
+
 // A multi-line text box: Enter breaks the line there, Tab moves on to the next field.
 QPlainTextEdit* textBox(QWidget* parent, const QString& name);
 // A multi-line box's text with the page's line ends (CR LF between its lines).

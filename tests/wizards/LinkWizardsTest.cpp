@@ -1,6 +1,6 @@
 // The link, menu and script wizards in their windows: opened from their menu keys, filled by
 // name, run with a page, a split window, a notepad and no document.
-#include "common/TestSupport.h"
+#include "WizardFixture.h"
 
 #include "colour/ColourSwatch.h"
 #include "documents/frmDocument.h"
@@ -43,46 +43,15 @@ const QString jumpScript = QStringLiteral(
     "else {if (target==\"_blank\") {window.open(loc);} \r\nelse{if (target==\"_parent\") {parent.location=loc;}\r\n"
     "else {parent.frames[target].location=loc;}; \r\n}}}}\r\n}\r\n</script>");
 
-class LinkWizardTest : public WindowTest {
+class LinkWizardTest : public WizardFixture {
 protected:
-    void SetUp() override { startWithoutPage(); }
-
-    template <class W>
-    W* open(const QString& menuKey)
-    {
-        frmMain::instance()->MenuClick(menuKey);
-        W* w = loadedForm<W>();
-        EXPECT_TRUE(w && w->isVisible()) << menuKey.toStdString();
-        return w;
-    }
-    static frmsplit* newSplit()
-    {
-        auto* split = new frmsplit;
-        frmMain::instance()->addDocument(split);
-        processEvents();
-        return split;
-    }
-    static QStringList items(const QComboBox* box)
-    {
-        QStringList rows;
-        for (int i = 0; i < box->count(); ++i)
-            rows << box->itemText(i);
-        return rows;
-    }
+    using WizardFixture::items;
     static QStringList items(const QListWidget* list)
     {
         QStringList rows;
         for (int i = 0; i < list->count(); ++i)
             rows << list->item(i)->text();
         return rows;
-    }
-    // Every label's text in the window.
-    static QStringList labels(const QWidget* w)
-    {
-        QStringList texts;
-        for (const QLabel* l : w->findChildren<QLabel*>())
-            texts << l->text();
-        return texts;
     }
     // The controls that Tab reaches from the first one of the focus chain, in the order it reaches them, once round.
     static QStringList tabOrder(QWidget* w)
@@ -143,9 +112,12 @@ TEST_F(LinkWizardTest, HyperlinkHasItsFieldsAndDefaults)
     EXPECT_FALSE(w->Check1->isChecked());
     EXPECT_EQ(w->Label5->text(), QStringLiteral("Tick the Box if you want the hyperlink to have its own colour, the Text font and "
                                                 "size can be set without this matter being ticked!!"));
-    const QStringList shown = labels(w);
-    for (const char* label : {"Link :", "Hyperlink Text :", "Target Setting :", "Common Target :", "Font :", "Link Colour :"})
-        EXPECT_TRUE(shown.contains(QString::fromLatin1(label))) << label;
+    const std::pair<QWidget*, const char*> labels[] = {
+        {w->Link, "Link :"},         {w->text, "Hyperlink Text :"}, {w->target, "Target Setting :"},
+        {w->List1, "Common Target :"}, {w->textsize, "Text Size :"}, {w->textfont, "Font :"},
+        {w->Text1, "Link Colour :"}};
+    for (const auto& [field, label] : labels)
+        EXPECT_EQ(labelOf(field), QString::fromLatin1(label)) << field->objectName().toStdString();
     EXPECT_EQ(w->Command1->text(), QStringLiteral("Find"));
     EXPECT_EQ(w->Command2->text(), QStringLiteral("LOAD"));
     EXPECT_EQ(w->Command3->text(), QStringLiteral("Choose"));
@@ -312,10 +284,12 @@ TEST_F(LinkWizardTest, JumpMenuHasItsFieldsAndDefaults)
               QStringLiteral("On a javascript error of the preview of the page, this will mean that at the moment the drop down "
                              "menu is only availble for 1 menu per page, this error comes from there being two or more parts "
                              "of the script, should be changed for multiple menus soon."));
-    const QStringList shown = labels(w);
-    for (const char* label : {"Menu Text :", "Hyperlink For Text : (Must include the HTTP://)", "Drop Menu Text :",
-                              "Button Text :", "Name :", "Position :", "Height :"})
-        EXPECT_TRUE(shown.contains(QString::fromLatin1(label))) << label;
+    const std::pair<QWidget*, const char*> labels[] = {
+        {w->Text1, "Menu Text :"},     {w->Text2, "Hyperlink For Text : (Must include the HTTP://)"},
+        {w->menutext, "Drop Menu Text :"}, {w->buttonname, "Button Text :"}, {w->Text3, "Name :"},
+        {w->Combo2, "Position :"},     {w->Text5, "Height :"}, {w->Label13, "Javascript Error :"}};
+    for (const auto& [field, label] : labels)
+        EXPECT_EQ(labelOf(field), QString::fromLatin1(label)) << field->objectName().toStdString();
     EXPECT_EQ(w->Command1->text(), QStringLiteral("Load"));
     EXPECT_TRUE(w->Command1->isDefault());
     EXPECT_EQ(tabOrder(w),
@@ -468,7 +442,7 @@ TEST_F(LinkWizardTest, ScriptFormEnablesWhatEachLanguageUses)
     EXPECT_EQ(w->optOther->text(), QStringLiteral("Other"));
     EXPECT_EQ(w->chkServer->text(), QStringLiteral("Run on Server"));
     EXPECT_EQ(w->Frame1->title(), QStringLiteral("Text Input ..."));
-    EXPECT_TRUE(labels(w).contains(QStringLiteral("Other :")));
+    EXPECT_EQ(labelOf(w->txtOther), QStringLiteral("Other :"));
     EXPECT_EQ(w->Command1->text(), QStringLiteral("LOAD"));
     EXPECT_EQ(w->Command2->text(), QStringLiteral("Cancel"));
     EXPECT_TRUE(w->optJS->isChecked());
@@ -587,9 +561,10 @@ TEST_F(LinkWizardTest, ExternalWindowHasItsFieldsAndFindsItsPage)
     EXPECT_EQ(w->Text2->text(), QStringLiteral("300"));
     EXPECT_EQ(w->Text3->text(), QStringLiteral("Click Here For  New Page"));
     EXPECT_EQ(w->Label5->text(), QStringLiteral("Note: The link must be direct, ie page.html , it cannot contain \\ ' , in the link"));
-    const QStringList shown = labels(w);
-    for (const char* label : {"Link (Html File)", "Width", "Height", "Link Text"})
-        EXPECT_TRUE(shown.contains(QString::fromLatin1(label))) << label;
+    const std::pair<QWidget*, const char*> labels[] = {
+        {w->Location, "Link (Html File)"}, {w->Text1, "Width"}, {w->Text2, "Height"}, {w->Text3, "Link Text"}};
+    for (const auto& [field, label] : labels)
+        EXPECT_EQ(labelOf(field), QString::fromLatin1(label)) << field->objectName().toStdString();
     EXPECT_EQ(w->Command3->text(), QStringLiteral("Find"));
     EXPECT_EQ(w->Command1->text(), QStringLiteral("Load"));
     EXPECT_EQ(w->Command2->text(), QStringLiteral("Close"));
