@@ -9,8 +9,8 @@ class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 
-// "Scripts ::": a script block at the caret, in JavaScript, VBScript (or server code) or a
-// language of the user's, which this build cannot write: that case fails and inserts nothing.
+// "Scripts ::": a script block at the caret, in JavaScript or VBScript (or server code). "Other"
+// with no name writes JavaScript; with a name it takes the failure path and inserts nothing.
 class scriptform : public WizardDialog {
     Q_OBJECT
 public:
