@@ -11,7 +11,6 @@
 #include <QDynamicPropertyChangeEvent>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -66,12 +65,8 @@ CSVWizard::CSVWizard(QWidget* parent) : WizardDialog(QStringLiteral("Table Wizar
     rows()->addRow(Label1);
 
     txtlocation = Look::named(new QLineEdit(this), QStringLiteral("txtlocation"));
-    Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Find"), this);
-    Command1->setAutoDefault(false);
-    auto* location = new QHBoxLayout;
-    location->addWidget(txtlocation, 1);
-    location->addWidget(Command1);
-    rows()->addRow(QStringLiteral("Location of File"), location);
+    Command1 = WizardRows::withButton(rows(), QStringLiteral("Location of File"), txtlocation, QStringLiteral("Command1"),
+                                      QStringLiteral("Find"));
     connect(Command1, &QPushButton::clicked, this, Event([this] {
         const QString path = prompts().openFile(QString(), csvFilter + QStringLiteral(";;") + tabFilter, QString());
         if (!path.isEmpty())

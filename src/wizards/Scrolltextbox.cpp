@@ -15,8 +15,7 @@ Scrolltextbox::Scrolltextbox(QWidget* parent)
     : WizardDialog(QStringLiteral("Scrolling Text Box ::"), Refusal::Notepad, parent)
 {
     const TextAreaText::Fields defaults;
-    Text1 = Look::named(new QPlainTextEdit(this), QStringLiteral("Text1"));
-    Text1->setTabChangesFocus(true);
+    Text1 = WizardRows::textBox(this, QStringLiteral("Text1"));
     Text1->setMaximumHeight(90);
     rows()->addRow(QStringLiteral("Box Contents :"), Text1);
     Text2 = WizardRows::line(rows(), QStringLiteral("Text2"), QStringLiteral("Name"), defaults.Text2);
@@ -36,8 +35,7 @@ Scrolltextbox::Scrolltextbox(QWidget* parent)
 TextAreaText::Fields Scrolltextbox::fields() const
 {
     TextAreaText::Fields f;
-    // The box's own line ends: the editor's paragraphs are joined as the page writes lines.
-    f.Text1 = Text1->toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    f.Text1 = WizardRows::pageText(Text1);
     f.Text2 = Text2->text();
     f.Text3 = Text3->text();
     f.Text4 = Text4->text();

@@ -36,12 +36,8 @@ TableWizard::TableWizard(QWidget* parent) : WizardDialog(QStringLiteral("TableWi
     resize(initialRows, initialCols);
 
     txtinput = Look::named(new QLineEdit(this), QStringLiteral("txtinput"));
-    Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Update"), this);
-    Command1->setAutoDefault(false);
-    auto* input = new QHBoxLayout;
-    input->addWidget(txtinput, 1);
-    input->addWidget(Command1);
-    rows()->addRow(QStringLiteral("Cell :"), input);
+    Command1 = WizardRows::withButton(rows(), QStringLiteral("Cell :"), txtinput, QStringLiteral("Command1"),
+                                      QStringLiteral("Update"));
     ckAuto = Look::named(new QCheckBox(QStringLiteral("Auto Update Current Cell"), this), QStringLiteral("ckAuto"));
     rows()->addRow(QString(), ckAuto);
 

@@ -50,10 +50,10 @@ WizardDialog::WizardDialog(const QString& caption, Refusal refusal, QWidget* par
 
 void WizardDialog::Insert()
 {
-    bool refused = false;
+    bool stopped = false;
     try {
-        if (refusal == Refusal::Notepad && RefuseInNotepad()) {
-            refused = true;
+        if ((refusal == Refusal::Notepad && RefuseInNotepad()) || !checkFields()) {
+            stopped = true;
         } else {
             beforeDelivery();
             const bool selected = delivery() == Delivery::Selected;
@@ -65,8 +65,8 @@ void WizardDialog::Insert()
         failed(e);
         return;
     }
-    // A refusal inserts nothing and leaves the form on the screen.
-    if (!refused)
+    // A refusal or a failed check inserts nothing and leaves the form on the screen.
+    if (!stopped)
         closingStep();
 }
 

@@ -12,7 +12,8 @@ struct RuntimeError;
 
 // The base of every insertion wizard. It owns the layout (the banner in the heading colour, the
 // rows, the button row) and the insert flow of the shared conventions:
-//   refusal (a notepad is active, for wizards that refuse) -> working fields -> fragment from the fields ->
+//   refusal (a notepad is active, for wizards that refuse) -> the wizard's check of its fields ->
+//   working fields -> fragment from the fields ->
 //   delivery by the insertion rule -> the wizard's own after-steps -> closing step (Hide),
 // all under the trap: a failure (no document, a member the window lacks) takes the failure
 // path, which is the closing step unless the wizard says otherwise. A wizard supplies its
@@ -31,7 +32,10 @@ public:
 protected:
     WizardDialog(const QString& caption, Refusal refusal, QWidget* parent = nullptr);
 
-    // After the refusal, before the fragment: working fields the wizard fills from the others.
+    // After the refusal: a wizard that requires a field says so here and answers false, which
+    // ends the command like the refusal does, the form staying on the screen.
+    virtual bool checkFields() { return true; }
+    // After the check, before the fragment: working fields the wizard fills from the others.
     // A failure here takes the failure path like any other.
     virtual void beforeDelivery() {}
     // The fragment of the fields as they stand; a wizard that delivers in several steps gives

@@ -13,17 +13,49 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <limits>
 
 namespace WizardRows {
 
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text)
 {
-    auto* edit = Look::named(new QLineEdit(text, rows->parentWidget()), name);
+    QLineEdit* edit = field(rows->parentWidget(), name, text);
     rows->addRow(label, edit);
     return edit;
 }
+
+QLineEdit* field(QWidget* parent, const QString& name, const QString& text)
+{
+    auto* edit = Look::named(new QLineEdit(parent), name);
+    edit->setMaxLength(std::numeric_limits<int>::max());
+    edit->setText(text);
+    return edit;
+}
+
+QPushButton* withButton(QFormLayout* rows, const QString& label, QWidget* field, const QString& buttonName,
+                        const QString& caption)
+{
+    QPushButton* button = Look::faceButton(buttonName, caption, rows->parentWidget());
+    button->setAutoDefault(false);
+    auto* row = new QHBoxLayout;
+    row->addWidget(field, 1);
+    row->addWidget(button);
+    rows->addRow(label, row);
+    return button;
+}
+
+QPlainTextEdit* textBox(QWidget* parent, const QString& name)
+{
+    auto* box = Look::named(new QPlainTextEdit(parent), name);
+    box->setTabChangesFocus(true);
+    return box;
+}
+
+QString pageText(const QPlainTextEdit* box) { return box->toPlainText().replace(QLatin1Char('\n'), Html::crlf); }
 
 ColourField colour(QFormLayout* rows, const QString& textName, const QString& buttonName, const QString& swatchName,
                    const QString& label, const QString& text, const QString& caption)
@@ -52,12 +84,7 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
     QWidget* parent = rows->parentWidget();
     FontField f;
     f.text = Look::named(new QLineEdit(QStringLiteral("Arial"), parent), textName);
-    f.choose = Look::faceButton(buttonName, caption, parent);
-    f.choose->setAutoDefault(false);
-    auto* row = new QHBoxLayout;
-    row->addWidget(f.text, 1);
-    row->addWidget(f.choose);
-    rows->addRow(label, row);
+    f.choose = withButton(rows, label, f.text, buttonName, caption);
     QLineEdit* field = f.text;
     QObject::connect(f.choose, &QPushButton::clicked, parent, Event([field] { chooseFontInto(field); }));
     return f;
@@ -71,13 +98,8 @@ LocationField location(QFormLayout* rows, const LocationNames& names, const QStr
     f.location = Look::named(new QLineEdit(parent), names.location);
     f.full = Look::named(new QLineEdit(parent), names.full);
     f.full->hide();
-    f.find = Look::faceButton(names.find, findCaption, parent);
-    f.find->setAutoDefault(false);
+    f.find = withButton(rows, label, f.location, names.find, findCaption);
     f.shorten = Look::named(new QCheckBox(QStringLiteral("Shorten location length"), parent), names.shorten);
-    auto* row = new QHBoxLayout;
-    row->addWidget(f.location, 1);
-    row->addWidget(f.find);
-    rows->addRow(label, row);
     rows->addRow(QString(), f.shorten);
     QLineEdit* shown = f.location;
     QLineEdit* full = f.full;
@@ -111,6 +133,8 @@ QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, co
 {
     auto* box = Look::named(new QComboBox(rows->parentWidget()), name);
     box->setEditable(true);
+    // Enter runs the load button; what was typed is the value, not a new row of the list.
+    box->setInsertPolicy(QComboBox::NoInsert);
     box->addItems(items);
     box->setCurrentText(text);
     rows->addRow(label, box);

@@ -9,6 +9,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QWidget;
@@ -17,8 +18,20 @@ class QWidget;
 // the system names its controls.
 namespace WizardRows {
 
-// A labelled text box with its default text.
+// A text box with its default text. Like the system's boxes it takes text of any length (a
+// line box would cut it at 32767 characters).
+QLineEdit* field(QWidget* parent, const QString& name, const QString& text = {});
+// The same in a labelled row of its own.
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text = {});
+
+// A row of a field and a button behind it (a button that Enter does not press).
+QPushButton* withButton(QFormLayout* rows, const QString& label, QWidget* field, const QString& buttonName,
+                        const QString& caption);
+
+// A multi-line text box: Enter breaks the line there, Tab moves on to the next field.
+QPlainTextEdit* textBox(QWidget* parent, const QString& name);
+// A multi-line box's text with the page's line ends (CR LF between its lines).
+QString pageText(const QPlainTextEdit* box);
 
 // A colour field: the text box (whose text holds its double quotes), the form's swatch (which
 // starts in the colour of the default text, black for one that is no colour) and the "Choose"
