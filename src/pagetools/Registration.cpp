@@ -1,5 +1,6 @@
 #include "pagetools/Registration.h"
 
+#include "pagetools/FormDesign.h"
 #include "pagetools/GifLoader.h"
 #include "pagetools/HelpSystem.h"
 #include "pagetools/Quick.h"
@@ -10,4 +11,5 @@ void registerPagetools()
     registerForm<Quick>();
     registerForm<GifLoader>();
     registerForm<HelpSystem>();
+    registerForm<FormDesign>();
 }

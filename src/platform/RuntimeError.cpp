@@ -12,6 +12,7 @@ RuntimeError RuntimeError::overflow(const QString& src) { return {6, QStringLite
 RuntimeError RuntimeError::divisionByZero(const QString& src) { return {11, QStringLiteral("Division by zero"), src}; }
 RuntimeError RuntimeError::typeMismatch(const QString& src) { return {13, QStringLiteral("Type mismatch"), src}; }
 RuntimeError RuntimeError::badFileName(const QString& src) { return {52, QStringLiteral("Bad file name or number"), src}; }
+RuntimeError RuntimeError::invalidPicture(const QString& src) { return {481, QStringLiteral("Invalid picture"), src}; }
 RuntimeError RuntimeError::fileNotFound(const QString& src) { return {53, QStringLiteral("File not found"), src}; }
 RuntimeError RuntimeError::deviceIoError(const QString& src) { return {57, QStringLiteral("Device I/O error"), src}; }
 RuntimeError RuntimeError::fileAlreadyExists(const QString& src) { return {58, QStringLiteral("File already exists"), src}; }

@@ -26,6 +26,7 @@ struct RuntimeError : std::exception {
     static RuntimeError pathFileAccess(const QString& src = {});   // 75
     static RuntimeError objectNotSet(const QString& src = {});     // 91
     static RuntimeError objectRequired(const QString& src = {});   // 424
+    static RuntimeError invalidPicture(const QString& src = {});   // 481
     static RuntimeError noSuchMember(const QString& member, const QString& src = {}); // 438
     static RuntimeError invalidProperty(const QString& src = {});  // 380
 

@@ -107,7 +107,6 @@ constexpr const char* notYetBuilt[] = {
     "Folders",
     "CSSCREATE",
     "frmscrollbar",
-    "FormDesign",
     "StyleLink",
     "FeedBack",
     "frmUpdate",
