@@ -16,11 +16,21 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <limits>
+
 namespace WizardRows {
+
+QLineEdit* textBox(QWidget* parent, const QString& name, const QString& text)
+{
+    auto* edit = Look::named(new QLineEdit(parent), name);
+    edit->setMaxLength(std::numeric_limits<int>::max());
+    edit->setText(text);
+    return edit;
+}
 
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text)
 {
-    auto* edit = Look::named(new QLineEdit(text, rows->parentWidget()), name);
+    auto* edit = textBox(rows->parentWidget(), name, text);
     rows->addRow(label, edit);
     return edit;
 }
@@ -30,7 +40,7 @@ ColourField colour(QFormLayout* rows, const QString& textName, const QString& bu
 {
     QWidget* parent = rows->parentWidget();
     ColourField f;
-    f.text = Look::named(new QLineEdit(text, parent), textName);
+    f.text = textBox(parent, textName, text);
     f.swatch = new ColourSwatch(swatchName, parent);
     f.swatch->setBackColor(ColourText::toPlatformValue(text, 0));
     f.choose = Look::faceButton(buttonName, caption, parent);
@@ -51,7 +61,7 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 {
     QWidget* parent = rows->parentWidget();
     FontField f;
-    f.text = Look::named(new QLineEdit(QStringLiteral("Arial"), parent), textName);
+    f.text = textBox(parent, textName, QStringLiteral("Arial"));
     f.choose = Look::faceButton(buttonName, caption, parent);
     f.choose->setAutoDefault(false);
     auto* row = new QHBoxLayout;
@@ -64,12 +74,13 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 }
 
 LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
-                       const QString& findCaption, const QString& filter)
+                       const QString& findCaption, const QString& filter,
+                       const std::function<void(const QString& path)>& found)
 {
     QWidget* parent = rows->parentWidget();
     LocationField f;
-    f.location = Look::named(new QLineEdit(parent), names.location);
-    f.full = Look::named(new QLineEdit(parent), names.full);
+    f.location = textBox(parent, names.location);
+    f.full = textBox(parent, names.full);
     f.full->hide();
     f.find = Look::faceButton(names.find, findCaption, parent);
     f.find->setAutoDefault(false);
@@ -82,12 +93,14 @@ LocationField location(QFormLayout* rows, const LocationNames& names, const QStr
     QLineEdit* shown = f.location;
     QLineEdit* full = f.full;
     QCheckBox* shorten = f.shorten;
-    QObject::connect(f.find, &QPushButton::clicked, parent, Event([shown, full, shorten, filter] {
+    QObject::connect(f.find, &QPushButton::clicked, parent, Event([shown, full, shorten, filter, found] {
         const QString path = prompts().openFile(QString(), filter, QString());
         if (path.isEmpty())
             return;
         full->setText(path);
         shown->setText(shorten->isChecked() ? shortLocation(path) : path);
+        if (found)
+            found(path);
     }));
     QObject::connect(f.shorten, &QCheckBox::toggled, parent, Event([shown, full](bool ticked) {
         shown->setText(ticked ? shortLocation(full->text()) : full->text());

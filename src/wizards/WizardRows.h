@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class ColourSwatch;
 class QCheckBox;
 class QComboBox;
@@ -16,6 +18,10 @@ class QWidget;
 // The rows that recur in the wizards, each added to a form layout with its label and named as
 // the system names its controls.
 namespace WizardRows {
+
+// A text box as the system's, outside any row: it holds any length of text, as a field typed or
+// pasted into can.
+QLineEdit* textBox(QWidget* parent, const QString& name, const QString& text = {});
 
 // A labelled text box with its default text.
 QLineEdit* line(QFormLayout* rows, const QString& name, const QString& label, const QString& text = {});
@@ -71,7 +77,8 @@ TableStyle tableStyle(QFormLayout* rows, const QString& borderButton, const QStr
 // A file location: the field (`Location`), its hidden full-length copy (`location1`), the find
 // button (the file dialog with the given Qt filter; both fields take the chosen path) and the
 // "Shorten location length" box: ticked, the field shows the bare file name of the copy as the
-// directory look-up returns it; cleared, the full path again.
+// directory look-up returns it; cleared, the full path again. A wizard that does more with a
+// chosen file gives `found`, run with the path once both fields hold it (never on a cancel).
 struct LocationField {
     QLineEdit* location = nullptr;  // Location
     QLineEdit* full = nullptr;      // location1
@@ -85,7 +92,8 @@ struct LocationNames {
     QString shorten;
 };
 LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
-                       const QString& findCaption, const QString& filter);
+                       const QString& findCaption, const QString& filter,
+                       const std::function<void(const QString& path)>& found = {});
 // The shortened form of a location: the file's bare name when the file exists, else "" (the
 // look-up finds nothing).
 QString shortLocation(const QString& fullPath);
