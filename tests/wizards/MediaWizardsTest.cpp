@@ -2,7 +2,7 @@
 // by name, run with a page, a split window, a notepad and no document, and fed the files a user
 // may pick by mistake.
 #include "common/QtPrinters.h"
-#include "common/TestSupport.h"
+#include "wizards/WizardTestSupport.h"
 
 #include "documents/frmDocument.h"
 #include "documents/frmsplit.h"
@@ -60,49 +60,8 @@ long currentKb()
     return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
-class MediaWizardsTest : public WindowTest {
+class MediaWizardsTest : public WizardTest {
 protected:
-    void SetUp() override { startWithoutPage(); }
-
-    template <class W>
-    W* open(const QString& menuKey)
-    {
-        frmMain::instance()->MenuClick(menuKey);
-        auto* w = loadedForm<W>();
-        EXPECT_NE(w, nullptr) << menuKey.toStdString();
-        if (w) {
-            EXPECT_TRUE(w->isVisible()) << menuKey.toStdString();
-        }
-        return w;
-    }
-    static frmsplit* newSplit()
-    {
-        auto* split = new frmsplit;
-        frmMain::instance()->addDocument(split);
-        processEvents();
-        return split;
-    }
-    static QStringList items(const QComboBox* box)
-    {
-        QStringList list;
-        for (int i = 0; i < box->count(); ++i)
-            list << box->itemText(i);
-        return list;
-    }
-    static QString labelOf(QWidget* field)
-    {
-        for (auto* layout : field->window()->findChildren<QFormLayout*>()) {
-            for (int i = 0; i < layout->rowCount(); ++i) {
-                QLayoutItem* item = layout->itemAt(i, QFormLayout::FieldRole);
-                if (!item || (item->widget() != field && !(item->layout() && item->layout()->indexOf(field) >= 0)))
-                    continue;
-                QLayoutItem* label = layout->itemAt(i, QFormLayout::LabelRole);
-                if (auto* l = label ? qobject_cast<QLabel*>(label->widget()) : nullptr)
-                    return l->text();
-            }
-        }
-        return {};
-    }
     // The named controls the Tab key visits, in order, from the first one.
     static QStringList tabOrder(QWidget* window)
     {
@@ -156,6 +115,8 @@ TEST_F(MediaWizardsTest, ImageformHasItsFieldsAndTabOrder)
     EXPECT_EQ(w->Check4->text(), QStringLiteral("Size In Percent"));
     EXPECT_EQ(w->Check5->text(), QStringLiteral("Style Absolute Enabled"));
     EXPECT_EQ(w->Check1->text(), QStringLiteral("Insert into  a Notepad document"));
+    EXPECT_EQ(labelOf(w->picwidth), QStringLiteral("Width :"));
+    EXPECT_EQ(labelOf(w->picheight), QStringLiteral("Height :"));
     EXPECT_EQ(labelOf(w->txleft), QStringLiteral("Left :"));
     EXPECT_EQ(labelOf(w->txtop), QStringLiteral("Top :"));
     EXPECT_EQ(w->Label8->text(), QStringLiteral("With the Style enabled, you will be able to position the picture where ever you "
@@ -236,7 +197,7 @@ TEST_F(MediaWizardsTest, ImageformMeasuresThePictureAndWritesIt)
     EXPECT_EQ(w->location1->text(), wide);
     EXPECT_EQ(w->picwidth->text(), QStringLiteral("633.663366336634"));
     EXPECT_EQ(w->picheight->text(), QStringLiteral("475.247524752475"));
-    EXPECT_EQ(w->Picture1->pixmap().size(), QSize(200, 150)) << "scaled to fit the preview";
+    EXPECT_EQ(w->Picture1->pixmap().size(), QSize(160, 120)) << "scaled to fit the preview";
     w->Check4->setChecked(true);
     w->picwidth->setText(QStringLiteral("50"));
     EXPECT_EQ(w->picheight->text(), QStringLiteral("37.5"));

@@ -1,7 +1,7 @@
 // The three table wizards opened from their menu keys: their fields and defaults, the table
 // each writes into a page, a split window, a notepad and no document, and the bad input each
 // must survive.
-#include "common/TestSupport.h"
+#include "wizards/WizardTestSupport.h"
 
 #include "documents/frmDocument.h"
 #include "documents/frmsplit.h"
@@ -44,50 +44,8 @@ const char* const blankTwoByTwo =
 const char* const fileTableTag =
     "<table border=1 cellspacing=0 bordercolor=\"#000000\" width=100% id=AutoNumber1 align=Center bgcolor=\"#FFFFFF\">\r\n";
 
-class TableWizardsTest : public WindowTest {
+class TableWizardsTest : public WizardTest {
 protected:
-    void SetUp() override { startWithoutPage(); }
-
-    template <class W>
-    W* open(const QString& menuKey)
-    {
-        frmMain::instance()->MenuClick(menuKey);
-        auto* w = loadedForm<W>();
-        EXPECT_NE(w, nullptr) << menuKey.toStdString();
-        if (w) {
-            EXPECT_TRUE(w->isVisible()) << menuKey.toStdString();
-        }
-        return w;
-    }
-    static frmsplit* newSplit()
-    {
-        auto* split = new frmsplit;
-        frmMain::instance()->addDocument(split);
-        processEvents();
-        return split;
-    }
-    static QStringList items(const QComboBox* box)
-    {
-        QStringList list;
-        for (int i = 0; i < box->count(); ++i)
-            list << box->itemText(i);
-        return list;
-    }
-    // The label of a field in its form layout.
-    static QString labelOf(QWidget* field)
-    {
-        for (auto* layout : field->window()->findChildren<QFormLayout*>()) {
-            QWidget* label = layout->labelForField(field);
-            if (!label)
-                for (int i = 0; i < layout->rowCount() && !label; ++i)
-                    if (QLayoutItem* item = layout->itemAt(i, QFormLayout::FieldRole); item && item->layout()
-                        && item->layout()->indexOf(field) >= 0)
-                        label = layout->itemAt(i, QFormLayout::LabelRole) ? layout->itemAt(i, QFormLayout::LabelRole)->widget() : nullptr;
-            if (auto* l = qobject_cast<QLabel*>(label))
-                return l->text();
-        }
-        return {};
-    }
     // A CSV wizard opened by a menu entry that asks for a file first.
     CSVWizard* openWithFile(const QString& menuKey, const QString& path)
     {

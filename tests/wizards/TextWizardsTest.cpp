@@ -1,6 +1,6 @@
 // The text wizards in their windows: opened from their menu keys, filled by name, run with a
 // page, a split window, a notepad and no document, as their descriptions say.
-#include "common/TestSupport.h"
+#include "wizards/WizardTestSupport.h"
 
 #include "colour/ColourSwatch.h"
 #include "documents/frmDocument.h"
@@ -28,26 +28,7 @@
 #include <QTextEdit>
 
 namespace {
-class TextWizardTest : public WindowTest {
-protected:
-    void SetUp() override { startWithoutPage(); }
-
-    template <class W>
-    W* open(const QString& menuKey)
-    {
-        frmMain::instance()->MenuClick(menuKey);
-        W* w = loadedForm<W>();
-        EXPECT_TRUE(w && w->isVisible()) << menuKey.toStdString();
-        return w;
-    }
-    static frmsplit* newSplit()
-    {
-        auto* split = new frmsplit;
-        frmMain::instance()->addDocument(split);
-        processEvents();
-        return split;
-    }
-};
+class TextWizardTest : public WizardTest {};
 }
 
 TEST_F(TextWizardTest, TextInputWrapsTheFieldItselfAndEmptiesIt)

@@ -1,6 +1,6 @@
 // The wizard windows on the shared base: their fields and defaults, the insert flow with a page,
 // a split window, a notepad and no document, and the menu keys that open them.
-#include "common/TestSupport.h"
+#include "wizards/WizardTestSupport.h"
 
 #include "colour/ColourSwatch.h"
 #include "documents/frmDocument.h"
@@ -27,36 +27,7 @@
 namespace {
 const QString refusal = QStringLiteral("You have a notepad document open, you need a web page open for this feature");
 
-class WizardWindowTest : public WindowTest {
-protected:
-    void SetUp() override { startWithoutPage(); }
-
-    template <class W>
-    W* open(const QString& menuKey)
-    {
-        frmMain::instance()->MenuClick(menuKey);
-        auto* w = loadedForm<W>();
-        EXPECT_NE(w, nullptr) << menuKey.toStdString();
-        if (w) {
-            EXPECT_TRUE(w->isVisible()) << menuKey.toStdString();
-        }
-        return w;
-    }
-    static QStringList rows(const QComboBox* box)
-    {
-        QStringList items;
-        for (int i = 0; i < box->count(); ++i)
-            items << box->itemText(i);
-        return items;
-    }
-    static frmsplit* newSplit()
-    {
-        auto* split = new frmsplit;
-        frmMain::instance()->addDocument(split);
-        processEvents();
-        return split;
-    }
-};
+class WizardWindowTest : public WizardTest {};
 }
 
 TEST_F(WizardWindowTest, LineWizardHasThePartsFieldsAndDefaults)
@@ -66,9 +37,9 @@ TEST_F(WizardWindowTest, LineWizardHasThePartsFieldsAndDefaults)
     saveShot(w, QStringLiteral("lineform"));
     EXPECT_EQ(w->windowTitle(), QStringLiteral("Line Properties ::"));
     EXPECT_EQ(w->Text1->text(), QStringLiteral("H00000000"));
-    EXPECT_EQ(rows(w->align), (QStringList{QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("Right")}));
+    EXPECT_EQ(items(w->align), (QStringList{QStringLiteral("Center"), QStringLiteral("Left"), QStringLiteral("Right")}));
     EXPECT_EQ(w->align->currentText(), QStringLiteral("Center"));
-    EXPECT_EQ(rows(w->barwidth), (QStringList{QStringLiteral("100"), QStringLiteral("75"), QStringLiteral("50"), QStringLiteral("25")}));
+    EXPECT_EQ(items(w->barwidth), (QStringList{QStringLiteral("100"), QStringLiteral("75"), QStringLiteral("50"), QStringLiteral("25")}));
     EXPECT_EQ(w->barwidth->currentText(), QStringLiteral("100"));
     EXPECT_EQ(w->barsize->text(), QStringLiteral("2"));
     EXPECT_EQ(w->Option1->text(), QStringLiteral("Pixels"));
