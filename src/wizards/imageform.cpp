@@ -19,7 +19,7 @@
 
 namespace {
 // The preview box; the picture is scaled to fit it, the natural size is what the fields take.
-constexpr QSize previewBox(200, 150);
+constexpr QSize previewBox(160, 120);
 // A picture put into a notepad is held at most this big: a huge one is shown scaled down rather
 // than decoded whole.
 constexpr QSize notepadBox(2048, 2048);
@@ -56,8 +56,9 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
     Picture2 = Look::named(new QLabel(this), QStringLiteral("Picture2"));
     Picture2->hide();
 
-    picwidth = WizardRows::line(rows(), QStringLiteral("picwidth"), QStringLiteral("Width :"));
-    picheight = WizardRows::line(rows(), QStringLiteral("picheight"), QStringLiteral("Height :"));
+    picwidth = WizardRows::textBox(this, QStringLiteral("picwidth"));
+    picheight = WizardRows::textBox(this, QStringLiteral("picheight"));
+    pairRow(QStringLiteral("Width :"), picwidth, QStringLiteral("Height :"), picheight);
     picwidth1 = hiddenField(this, QStringLiteral("picwidth1"));
     picheight1 = hiddenField(this, QStringLiteral("picheight1"));
     Check3 = checkBox(this, QStringLiteral("Check3"), QStringLiteral("Maintain Aspect Ratio"));
@@ -73,8 +74,9 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
 
     Check5 = checkBox(this, QStringLiteral("Check5"), QStringLiteral("Style Absolute Enabled"));
     rows()->addRow(QString(), Check5);
-    txleft = WizardRows::line(rows(), QStringLiteral("txleft"), QStringLiteral("Left :"));
-    txtop = WizardRows::line(rows(), QStringLiteral("txtop"), QStringLiteral("Top :"));
+    txleft = WizardRows::textBox(this, QStringLiteral("txleft"));
+    txtop = WizardRows::textBox(this, QStringLiteral("txtop"));
+    pairRow(QStringLiteral("Left :"), txleft, QStringLiteral("Top :"), txtop);
     Label8 = Look::named(new QLabel(QStringLiteral("With the Style enabled, you will be able to position the picture where "
                                                    "ever you want on the web page, all you need to specify is the Left and "
                                                    "Top Values."),
@@ -97,6 +99,20 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
         if (const auto height = ImageText::keptHeight(picwidth->text(), picheight1->text(), picwidth1->text()))
             picheight->setText(*height);
     });
+}
+
+void imageform::pairRow(const QString& firstLabel, QLineEdit* first, const QString& secondLabel, QLineEdit* second)
+{
+    auto* label = new QLabel(firstLabel, this);
+    label->setBuddy(first);
+    auto* secondName = new QLabel(secondLabel, this);
+    secondName->setBuddy(second);
+    auto* row = new QHBoxLayout;
+    row->addWidget(first, 1);
+    row->addSpacing(8);
+    row->addWidget(secondName);
+    row->addWidget(second, 1);
+    rows()->addRow(label, row);
 }
 
 void imageform::loadPicture(const QString& path)
