@@ -26,16 +26,13 @@ QGroupBox* frame(QFormLayout* rows, const QString& name, const QString& title)
 }
 
 // A part's own "Insert", at the right of its last row.
-QPushButton* partButton(QFormLayout* rows, const QString& name)
+QPushButton* partButton(QWidget* part, const QString& name)
 {
-    QPushButton* b = Look::faceButton(name, QStringLiteral("Insert"), rows->parentWidget());
+    QPushButton* b = Look::faceButton(name, QStringLiteral("Insert"), part);
     b->setAutoDefault(false);
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(b);
-    rows->addRow(row);
     return b;
 }
+
 }
 
 Media::Media(QWidget* parent) : WizardDialog(QStringLiteral("Insert Media"), Refusal::None, parent)
@@ -54,10 +51,15 @@ Media::Media(QWidget* parent) : WizardDialog(QStringLiteral("Insert Media"), Ref
     mlocation1 = music.full;
     Command5 = music.find;
     Check4 = music.shorten;
-    mloop = WizardRows::line(soundRows, QStringLiteral("mloop"), QStringLiteral("Loop"), soundDefaults.mloop);
+    mloop = WizardRows::textBox(soundFrame, QStringLiteral("mloop"), soundDefaults.mloop);
     Label12 = Look::named(new QLabel(QStringLiteral("(-1 = Infinite)"), soundFrame), QStringLiteral("Label12"));
-    soundRows->addRow(QString(), Label12);
-    Command1 = partButton(soundRows, QStringLiteral("Command1"));
+    Command1 = partButton(soundFrame, QStringLiteral("Command1"));
+    auto* loopRow = new QHBoxLayout;
+    loopRow->addWidget(mloop);
+    loopRow->addWidget(Label12);
+    loopRow->addStretch();
+    loopRow->addWidget(Command1);
+    soundRows->addRow(QStringLiteral("Loop"), loopRow);
 
     movieFrame = frame(rows(), QStringLiteral("movieFrame"), QStringLiteral("Movie"));
     auto* movieRows = static_cast<QFormLayout*>(movieFrame->layout());
@@ -70,14 +72,22 @@ Media::Media(QWidget* parent) : WizardDialog(QStringLiteral("Insert Media"), Ref
     vlocation1 = film.full;
     Command3 = film.find;
     Check5 = film.shorten;
-    mwidth = WizardRows::line(movieRows, QStringLiteral("mwidth"), QStringLiteral("Width"), movieDefaults.mwidth);
-    mheight = WizardRows::line(movieRows, QStringLiteral("mheight"), QStringLiteral("Height"), movieDefaults.mheight);
-    mborder = WizardRows::line(movieRows, QStringLiteral("mborder"), QStringLiteral("Border"), movieDefaults.mborder);
-    Combo1 = WizardRows::list(movieRows, QStringLiteral("Combo1"), QStringLiteral("Align"), MediaText::alignments(),
-                              movieDefaults.Combo1);
+    mwidth = WizardRows::textBox(movieFrame, QStringLiteral("mwidth"), movieDefaults.mwidth);
+    mheight = WizardRows::textBox(movieFrame, QStringLiteral("mheight"), movieDefaults.mheight);
+    WizardRows::pair(movieRows, QStringLiteral("Width"), mwidth, QStringLiteral("Height"), mheight);
+    mborder = WizardRows::textBox(movieFrame, QStringLiteral("mborder"), movieDefaults.mborder);
+    Combo1 = Look::named(new QComboBox(movieFrame), QStringLiteral("Combo1"));
+    Combo1->setEditable(true);
+    Combo1->addItems(MediaText::alignments());
+    Combo1->setCurrentText(movieDefaults.Combo1);
+    WizardRows::pair(movieRows, QStringLiteral("Border"), mborder, QStringLiteral("Align"), Combo1);
     Check1 = Look::named(new QCheckBox(QStringLiteral("Loop forever"), movieFrame), QStringLiteral("Check1"));
-    movieRows->addRow(QString(), Check1);
-    Command2 = partButton(movieRows, QStringLiteral("Command2"));
+    Command2 = partButton(movieFrame, QStringLiteral("Command2"));
+    auto* lastRow = new QHBoxLayout;
+    lastRow->addWidget(Check1);
+    lastRow->addStretch();
+    lastRow->addWidget(Command2);
+    movieRows->addRow(QString(), lastRow);
 
     Command4 = addCloseButton(QStringLiteral("Command4"));
     Command4->setDefault(false);  // Enter inserts (see keyPressEvent), it never closes

@@ -42,8 +42,9 @@ QLineEdit* ParameterWizard::fileField(const QString& name, const QString& label)
 void ParameterWizard::finishRows()
 {
     const ParameterText::Common defaults;
-    txtheight = WizardRows::line(rows(), QStringLiteral("txtheight"), QStringLiteral("Height :"), defaults.txtheight);
-    txtWidth = WizardRows::line(rows(), QStringLiteral("txtWidth"), QStringLiteral("Width :"), defaults.txtWidth);
+    txtheight = WizardRows::textBox(this, QStringLiteral("txtheight"), defaults.txtheight);
+    txtWidth = WizardRows::textBox(this, QStringLiteral("txtWidth"), defaults.txtWidth);
+    WizardRows::pair(rows(), QStringLiteral("Height :"), txtheight, QStringLiteral("Width :"), txtWidth);
 
     txtnamenew = field(QStringLiteral("txtnamenew"), QStringLiteral("Parameter Name :"));
     txtvaluenew = field(QStringLiteral("txtvaluenew"), QStringLiteral("Parameter Value :"));

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -118,6 +119,22 @@ void chooseFontInto(QLineEdit* field)
 {
     const QFont held(field->text());
     field->setText(prompts().font(held).value_or(held).family());
+}
+
+QHBoxLayout* pair(QFormLayout* rows, const QString& firstLabel, QWidget* first, const QString& secondLabel, QWidget* second)
+{
+    QWidget* parent = rows->parentWidget();
+    auto* label = new QLabel(firstLabel, parent);
+    label->setBuddy(first);
+    auto* secondName = new QLabel(secondLabel, parent);
+    secondName->setBuddy(second);
+    auto* row = new QHBoxLayout;
+    row->addWidget(first, 1);
+    row->addSpacing(8);
+    row->addWidget(secondName);
+    row->addWidget(second, 1);
+    rows->addRow(label, row);
+    return row;
 }
 
 QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items, const QString& text)

@@ -10,6 +10,7 @@ class ColourSwatch;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -50,6 +51,9 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 // The step behind a font field's button. A cancelled dialog gives back the font it was opened
 // with, so the field is set by the same step either way.
 void chooseFontInto(QLineEdit* field);
+
+// Two labelled fields on one row (a size, a position); the row's layout, for anything more.
+QHBoxLayout* pair(QFormLayout* rows, const QString& firstLabel, QWidget* first, const QString& secondLabel, QWidget* second);
 
 // An editable list with its rows and its default text; what a user types is taken as it is.
 QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items,

@@ -20,6 +20,7 @@
 namespace {
 // The preview box; the picture is scaled to fit it, the natural size is what the fields take.
 constexpr QSize previewBox(160, 120);
+constexpr int formWidth = 460;
 // A picture put into a notepad is held at most this big: a huge one is shown scaled down rather
 // than decoded whole.
 constexpr QSize notepadBox(2048, 2048);
@@ -48,26 +49,33 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
     find = location.find;
     Check2 = location.shorten;
 
-    Picture1 = Look::named(new QLabel(this), QStringLiteral("Picture1"));
+    // The preview, with the size fields and their two boxes beside it; the row is never lower
+    // than the preview, however small the screen.
+    auto* previewRow = new QWidget(this);
+    previewRow->setMinimumHeight(previewBox.height());
+    Picture1 = Look::named(new QLabel(previewRow), QStringLiteral("Picture1"));
     Picture1->setFixedSize(previewBox);
     Picture1->setAlignment(Qt::AlignCenter);
     Picture1->setFrameShape(QFrame::StyledPanel);
-    rows()->addRow(QStringLiteral("Preview :"), Picture1);
     Picture2 = Look::named(new QLabel(this), QStringLiteral("Picture2"));
     Picture2->hide();
-
-    picwidth = WizardRows::textBox(this, QStringLiteral("picwidth"));
-    picheight = WizardRows::textBox(this, QStringLiteral("picheight"));
-    pairRow(QStringLiteral("Width :"), picwidth, QStringLiteral("Height :"), picheight);
+    picwidth = WizardRows::textBox(previewRow, QStringLiteral("picwidth"));
+    picheight = WizardRows::textBox(previewRow, QStringLiteral("picheight"));
     picwidth1 = hiddenField(this, QStringLiteral("picwidth1"));
     picheight1 = hiddenField(this, QStringLiteral("picheight1"));
-    Check3 = checkBox(this, QStringLiteral("Check3"), QStringLiteral("Maintain Aspect Ratio"));
-    Check4 = checkBox(this, QStringLiteral("Check4"), QStringLiteral("Size In Percent"));
-    auto* sizeBoxes = new QHBoxLayout;
-    sizeBoxes->addWidget(Check3);
-    sizeBoxes->addWidget(Check4);
-    sizeBoxes->addStretch();
-    rows()->addRow(QString(), sizeBoxes);
+    Check3 = checkBox(previewRow, QStringLiteral("Check3"), QStringLiteral("Maintain Aspect Ratio"));
+    Check4 = checkBox(previewRow, QStringLiteral("Check4"), QStringLiteral("Size In Percent"));
+    auto* size = new QFormLayout;
+    size->setContentsMargins(8, 0, 0, 0);
+    size->addRow(QStringLiteral("Width :"), picwidth);
+    size->addRow(QStringLiteral("Height :"), picheight);
+    size->addRow(Check3);
+    size->addRow(Check4);
+    auto* preview = new QHBoxLayout(previewRow);
+    preview->setContentsMargins(0, 0, 0, 0);
+    preview->addWidget(Picture1);
+    preview->addLayout(size, 1);
+    rows()->addRow(QStringLiteral("Preview :"), previewRow);
 
     align = WizardRows::alignment(rows(), QStringLiteral("align"));
     picborder = WizardRows::line(rows(), QStringLiteral("picborder"), QStringLiteral("Border :"));
@@ -76,19 +84,23 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
     rows()->addRow(QString(), Check5);
     txleft = WizardRows::textBox(this, QStringLiteral("txleft"));
     txtop = WizardRows::textBox(this, QStringLiteral("txtop"));
-    pairRow(QStringLiteral("Left :"), txleft, QStringLiteral("Top :"), txtop);
+    WizardRows::pair(rows(), QStringLiteral("Left :"), txleft, QStringLiteral("Top :"), txtop);
     Label8 = Look::named(new QLabel(QStringLiteral("With the Style enabled, you will be able to position the picture where "
                                                    "ever you want on the web page, all you need to specify is the Left and "
                                                    "Top Values."),
                                     this),
                          QStringLiteral("Label8"));
     Label8->setWordWrap(true);
+    // The form's least height must hold the wrapped note, or a small screen squeezes the rows
+    // over each other.
+    Label8->setMinimumHeight(Label8->heightForWidth(formWidth - 24));
     rows()->addRow(Label8);
 
     Check1 = checkBox(this, QStringLiteral("Check1"), QStringLiteral("Insert into  a Notepad document"));
     rows()->addRow(QString(), Check1);
     Text1 = hiddenField(this, QStringLiteral("Text1"));
 
+    setMinimumWidth(formWidth);
     Command1 = addLoadButton(QStringLiteral("Command1"), QStringLiteral("Insert ..."));
     Command2 = addCloseButton(QStringLiteral("Command2"));
 
@@ -99,20 +111,6 @@ imageform::imageform(QWidget* parent) : WizardDialog(QStringLiteral("Load An Ima
         if (const auto height = ImageText::keptHeight(picwidth->text(), picheight1->text(), picwidth1->text()))
             picheight->setText(*height);
     });
-}
-
-void imageform::pairRow(const QString& firstLabel, QLineEdit* first, const QString& secondLabel, QLineEdit* second)
-{
-    auto* label = new QLabel(firstLabel, this);
-    label->setBuddy(first);
-    auto* secondName = new QLabel(secondLabel, this);
-    secondName->setBuddy(second);
-    auto* row = new QHBoxLayout;
-    row->addWidget(first, 1);
-    row->addSpacing(8);
-    row->addWidget(secondName);
-    row->addWidget(second, 1);
-    rows()->addRow(label, row);
 }
 
 void imageform::loadPicture(const QString& path)

@@ -39,8 +39,6 @@ protected:
     void afterDelivery() override;
 
 private:
-    // Two labelled fields on one row (a size, a position).
-    void pairRow(const QString& firstLabel, QLineEdit* first, const QString& secondLabel, QLineEdit* second);
     // The step behind `find` once the location holds the chosen file.
     void loadPicture(const QString& path);
     void showPreview(const QString& path);

@@ -573,6 +573,8 @@ TEST_F(MediaWizardsTest, ParameterWizardsBuildTheirListAndDeliverInSteps)
         EXPECT_EQ(w->windowTitle(), u(c.caption));
         EXPECT_EQ(w->txtheight->text(), QStringLiteral("50"));
         EXPECT_EQ(w->txtWidth->text(), QStringLiteral("50"));
+        EXPECT_EQ(labelOf(w->txtheight), QStringLiteral("Height :"));
+        EXPECT_EQ(labelOf(w->txtWidth), QStringLiteral("Width :"));
         EXPECT_EQ(w->Command2->text(), QStringLiteral("Add"));
         EXPECT_EQ(w->Command3->text(), QStringLiteral("Delete"));
         EXPECT_EQ(w->Command4->text(), QStringLiteral("Insert"));
