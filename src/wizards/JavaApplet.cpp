@@ -13,7 +13,8 @@ JavaApplet::JavaApplet(QWidget* parent) : ParameterWizard(QStringLiteral("Java A
 
 ParameterText::Applet JavaApplet::fields() const
 {
-    auto f = withCommon<ParameterText::Applet>();
+    ParameterText::Applet f;
+    fillCommon(f);
     f.txtcode = txtcode->text();
     f.txtcodebase = txtcodebase->text();
     f.txtalternative = txtalternative->text();

@@ -18,7 +18,8 @@ Object::Object(QWidget* parent) : ParameterWizard(QStringLiteral("Object"), pare
 
 ParameterText::Object Object::fields() const
 {
-    auto f = withCommon<ParameterText::Object>();
+    ParameterText::Object f;
+    fillCommon(f);
     f.txtcodebase = txtcodebase->text();
     f.txtname = txtname->text();
     f.txtclass = txtclass->text();

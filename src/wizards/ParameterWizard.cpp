@@ -74,7 +74,12 @@ void ParameterWizard::finishRows()
     connect(Command3, &QPushButton::clicked, this, Event([this] { deleteParameter(); }));
 }
 
-QString ParameterWizard::sizeText(const QLineEdit* size) { return size->text(); }
+void ParameterWizard::fillCommon(ParameterText::Common& f) const
+{
+    f.txtheight = txtheight->text();
+    f.txtWidth = txtWidth->text();
+    f.List1 = parameterLines();
+}
 
 QStringList ParameterWizard::parameterLines() const
 {

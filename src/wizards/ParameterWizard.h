@@ -31,16 +31,8 @@ protected:
     QLineEdit* fileField(const QString& name, const QString& label);
     // The sizes, the parameter rows and the buttons, below the wizard's own rows.
     void finishRows();
-    // The sizes and the parameter lines, for the wizard's builder.
-    template <class F>
-    F withCommon() const
-    {
-        F f;
-        f.txtheight = sizeText(txtheight);
-        f.txtWidth = sizeText(txtWidth);
-        f.List1 = parameterLines();
-        return f;
-    }
+    // The sizes and the parameter lines, into the fields for the wizard's builder.
+    void fillCommon(ParameterText::Common& f) const;
 
     // The steps of the delivery, from the wizard's builder.
     virtual QStringList steps() const = 0;
@@ -48,7 +40,6 @@ protected:
     void afterDelivery() override;
 
 private:
-    static QString sizeText(const QLineEdit* size);
     void chooseFile();
     void addParameter();
     void deleteParameter();

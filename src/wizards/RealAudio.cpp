@@ -28,7 +28,8 @@ RealAudio::RealAudio(QWidget* parent) : ParameterWizard(QStringLiteral("Insert R
 
 ParameterText::Audio RealAudio::fields() const
 {
-    auto f = withCommon<ParameterText::Audio>();
+    ParameterText::Audio f;
+    fillCommon(f);
     f.txtfile = txtfile->text();
     f.txtname = txtname->text();
     f.coallignment = coallignment->currentText();

@@ -339,6 +339,13 @@ TEST_F(MediaWizardsTest, ImageformBadPictures)
         }
     }
     EXPECT_LT(peakKb(), before + 1024 * 1024) << "no decode of a whole huge picture";
+    // A cancelled dialog measures nothing.
+    w->picwidth->setText(QStringLiteral("kept"));
+    prompts.answerOpenFile(QString());
+    w->find->click();
+    EXPECT_EQ(w->location1->text(), good);
+    EXPECT_EQ(w->picwidth->text(), QStringLiteral("kept"));
+    EXPECT_FALSE(w->Picture1->pixmap().isNull());
 
     // The huge picture into a notepad: nothing goes in, the form closes.
     notepad* pad = newPad(QStringLiteral("x"));
@@ -349,7 +356,7 @@ TEST_F(MediaWizardsTest, ImageformBadPictures)
     EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(picturesIn(pad->RichTextBox1()->document()), 0);
     EXPECT_LT(peakKb(), before + 1024 * 1024);
-    EXPECT_EQ(prompts.prompts().size(), int(std::size(cases)));
+    EXPECT_EQ(prompts.prompts().size(), int(std::size(cases)) + 1) << "the file dialogs alone";
 }
 
 TEST_F(MediaWizardsTest, ImageformFieldTextsGoInAsTheyStand)
