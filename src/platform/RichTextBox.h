@@ -52,8 +52,8 @@ public:
     int SelHangingIndent() const;
     void setSelHangingIndent(int twips);
 
-    // OLEObjects.Add of a picture: embedded in the document at the selection, which it replaces;
-    // the caret goes behind it. The name identifies it among the document's resources. The rich
+    // A picture embedded in the document at the selection, which it replaces; the caret goes
+    // behind it. The name identifies it among the document's resources. The rich
     // text file written by SaveFile holds text only: the picture is not saved with it.
     void addPicture(const QImage& picture, const QString& name);
 
