@@ -7,11 +7,14 @@
 #include "platform/Twips.h"
 
 #include <QFileInfo>
+#include <QImage>
 #include <QPagedPaintDevice>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
+#include <QTextImageFormat>
+#include <QUrl>
 
 RichTextBox::RichTextBox(Kind kind, QWidget* parentWidget, QObject* owner) : QObject(owner)
 {
@@ -107,6 +110,18 @@ void RichTextBox::setSelText(const QString& text)
     QString s = text;
     s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     c.insertText(s);
+    setCursor(c);
+}
+
+void RichTextBox::addPicture(const QImage& picture, const QString& name)
+{
+    doc->addResource(QTextDocument::ImageResource, QUrl(name), picture);
+    QTextImageFormat f;
+    f.setName(name);
+    f.setWidth(picture.width());
+    f.setHeight(picture.height());
+    QTextCursor c = cursor();
+    c.insertImage(f);
     setCursor(c);
 }
 

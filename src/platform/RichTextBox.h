@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QImage;
 class QTextCharFormat;
 class QTextBlockFormat;
 
@@ -50,6 +51,11 @@ public:
     void setSelRightIndent(int twips);
     int SelHangingIndent() const;
     void setSelHangingIndent(int twips);
+
+    // A picture embedded in the document at the selection, which it replaces; the caret goes
+    // behind it. The name identifies it among the document's resources. The rich
+    // text file written by SaveFile holds text only: the picture is not saved with it.
+    void addPicture(const QImage& picture, const QString& name);
 
     // Case-insensitive search from the start: selects the match, gives its 0-based position or -1.
     int find(const QString& what);

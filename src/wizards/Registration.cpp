@@ -4,6 +4,10 @@
 #include "wizards/CSVWizard.h"
 #include "wizards/Fontform.h"
 #include "wizards/Hyperlink1.h"
+#include "wizards/JavaApplet.h"
+#include "wizards/Media.h"
+#include "wizards/Object.h"
+#include "wizards/RealAudio.h"
 #include "wizards/Scrolltextbox.h"
 #include "wizards/TableWizard.h"
 #include "wizards/Tableform.h"
@@ -13,6 +17,7 @@
 #include "wizards/dropmenu2.h"
 #include "wizards/emailform.h"
 #include "wizards/externalwindow.h"
+#include "wizards/imageform.h"
 #include "wizards/lineform.h"
 #include "wizards/marqueeform.h"
 #include "wizards/pageproperties.h"
@@ -36,4 +41,9 @@ void registerWizards()
     registerForm<TableWizard>();
     registerForm<CSVWizard>();
     registerForm<pageproperties>();
+    registerForm<imageform>();
+    registerForm<Media>();
+    registerForm<JavaApplet>();
+    registerForm<RealAudio>();
+    registerForm<Object>();
 }

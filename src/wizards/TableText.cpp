@@ -8,28 +8,18 @@
 
 namespace TableText {
 namespace {
-// A count as the text converts to a number: blanks around it are allowed, nothing else.
-double number(const QString& text)
-{
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(value))
-        throw RuntimeError::typeMismatch();
-    return value;
-}
-
 // How often "For i = 1 To n" runs.
 double timesFromOne(double n) { return n >= 1 ? std::floor(n) : 0; }
 }
 
-QString cellWidth(double columns) { return QString::number(100.0 / columns, 'G', 15); }
+QString cellWidth(double columns) { return Html::number(100.0 / columns); }
 
 Parts compose(const Fields& f)
 {
-    const double columns = number(f.Text2);
+    const double columns = Html::value(f.Text2);
     if (columns == 0)
         throw RuntimeError::divisionByZero();
-    const double rows = number(f.Text1);
+    const double rows = Html::value(f.Text1);
     if (std::max(timesFromOne(columns), 1.0) * std::max(timesFromOne(rows), 1.0) > maxCells)
         throw RuntimeError::overflow();
     const auto cellCount = static_cast<qsizetype>(timesFromOne(columns));

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -62,7 +63,7 @@ ColourField colour(QFormLayout* rows, const QString& textName, const QString& bu
 {
     QWidget* parent = rows->parentWidget();
     ColourField f;
-    f.text = Look::named(new QLineEdit(text, parent), textName);
+    f.text = field(parent, textName, text);
     f.swatch = new ColourSwatch(swatchName, parent);
     f.swatch->setBackColor(ColourText::toPlatformValue(text, 0));
     f.choose = Look::faceButton(buttonName, caption, parent);
@@ -83,7 +84,7 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 {
     QWidget* parent = rows->parentWidget();
     FontField f;
-    f.text = Look::named(new QLineEdit(QStringLiteral("Arial"), parent), textName);
+    f.text = field(parent, textName, QStringLiteral("Arial"));
     f.choose = withButton(rows, label, f.text, buttonName, caption);
     QLineEdit* field = f.text;
     QObject::connect(f.choose, &QPushButton::clicked, parent, Event([field] { chooseFontInto(field); }));
@@ -91,12 +92,13 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 }
 
 LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
-                       const QString& findCaption, const QString& filter)
+                       const QString& findCaption, const QString& filter,
+                       const std::function<void(const QString& path)>& found)
 {
     QWidget* parent = rows->parentWidget();
     LocationField f;
-    f.location = Look::named(new QLineEdit(parent), names.location);
-    f.full = Look::named(new QLineEdit(parent), names.full);
+    f.location = field(parent, names.location);
+    f.full = field(parent, names.full);
     f.full->hide();
     f.find = withButton(rows, label, f.location, names.find, findCaption);
     f.shorten = Look::named(new QCheckBox(QStringLiteral("Shorten location length"), parent), names.shorten);
@@ -104,12 +106,14 @@ LocationField location(QFormLayout* rows, const LocationNames& names, const QStr
     QLineEdit* shown = f.location;
     QLineEdit* full = f.full;
     QCheckBox* shorten = f.shorten;
-    QObject::connect(f.find, &QPushButton::clicked, parent, Event([shown, full, shorten, filter] {
+    QObject::connect(f.find, &QPushButton::clicked, parent, Event([shown, full, shorten, filter, found] {
         const QString path = prompts().openFile(QString(), filter, QString());
         if (path.isEmpty())
             return;
         full->setText(path);
         shown->setText(shorten->isChecked() ? shortLocation(path) : path);
+        if (found)
+            found(path);
     }));
     QObject::connect(f.shorten, &QCheckBox::toggled, parent, Event([shown, full](bool ticked) {
         shown->setText(ticked ? shortLocation(full->text()) : full->text());
@@ -127,6 +131,22 @@ void chooseFontInto(QLineEdit* field)
 {
     const QFont held(field->text());
     field->setText(prompts().font(held).value_or(held).family());
+}
+
+QHBoxLayout* pair(QFormLayout* rows, const QString& firstLabel, QWidget* first, const QString& secondLabel, QWidget* second)
+{
+    QWidget* parent = rows->parentWidget();
+    auto* label = new QLabel(firstLabel, parent);
+    label->setBuddy(first);
+    auto* secondName = new QLabel(secondLabel, parent);
+    secondName->setBuddy(second);
+    auto* row = new QHBoxLayout;
+    row->addWidget(first, 1);
+    row->addSpacing(8);
+    row->addWidget(secondName);
+    row->addWidget(second, 1);
+    rows->addRow(label, row);
+    return row;
 }
 
 QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items, const QString& text)

@@ -4,10 +4,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class ColourSwatch;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QHBoxLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -58,6 +61,9 @@ FontField font(QFormLayout* rows, const QString& textName, const QString& button
 // with, so the field is set by the same step either way.
 void chooseFontInto(QLineEdit* field);
 
+// Two labelled fields on one row (a size, a position); the row's layout, for anything more.
+QHBoxLayout* pair(QFormLayout* rows, const QString& firstLabel, QWidget* first, const QString& secondLabel, QWidget* second);
+
 // An editable list with its rows and its default text; what a user types is taken as it is.
 QComboBox* list(QFormLayout* rows, const QString& name, const QString& label, const QStringList& items,
                 const QString& text);
@@ -84,7 +90,8 @@ TableStyle tableStyle(QFormLayout* rows, const QString& borderButton, const QStr
 // A file location: the field (`Location`), its hidden full-length copy (`location1`), the find
 // button (the file dialog with the given Qt filter; both fields take the chosen path) and the
 // "Shorten location length" box: ticked, the field shows the bare file name of the copy as the
-// directory look-up returns it; cleared, the full path again.
+// directory look-up returns it; cleared, the full path again. A wizard that does more with a
+// chosen file gives `found`, run with the path once both fields hold it (never on a cancel).
 struct LocationField {
     QLineEdit* location = nullptr;  // Location
     QLineEdit* full = nullptr;      // location1
@@ -98,7 +105,8 @@ struct LocationNames {
     QString shorten;
 };
 LocationField location(QFormLayout* rows, const LocationNames& names, const QString& label,
-                       const QString& findCaption, const QString& filter);
+                       const QString& findCaption, const QString& filter,
+                       const std::function<void(const QString& path)>& found = {});
 // The shortened form of a location: the file's bare name when the file exists, else "" (the
 // look-up finds nothing).
 QString shortLocation(const QString& fullPath);

@@ -42,18 +42,22 @@ protected:
             list << box->itemText(i);
         return list;
     }
-    // The label of a field in its form layout, also of a field that shares its row with others.
+    // The label of a field: its buddy, or the label of the form row that holds it (also a row
+    // the field shares with others).
     static QString labelOf(QWidget* field)
     {
+        for (auto* label : field->window()->findChildren<QLabel*>())
+            if (label->buddy() == field)
+                return label->text();
         for (auto* layout : field->window()->findChildren<QFormLayout*>()) {
-            QWidget* label = layout->labelForField(field);
-            if (!label)
-                for (int i = 0; i < layout->rowCount() && !label; ++i)
-                    if (QLayoutItem* item = layout->itemAt(i, QFormLayout::FieldRole); item && item->layout()
-                        && item->layout()->indexOf(field) >= 0)
-                        label = layout->itemAt(i, QFormLayout::LabelRole) ? layout->itemAt(i, QFormLayout::LabelRole)->widget() : nullptr;
-            if (auto* l = qobject_cast<QLabel*>(label))
-                return l->text();
+            for (int i = 0; i < layout->rowCount(); ++i) {
+                QLayoutItem* item = layout->itemAt(i, QFormLayout::FieldRole);
+                if (!item || (item->widget() != field && !(item->layout() && item->layout()->indexOf(field) >= 0)))
+                    continue;
+                QLayoutItem* label = layout->itemAt(i, QFormLayout::LabelRole);
+                if (auto* l = label ? qobject_cast<QLabel*>(label->widget()) : nullptr)
+                    return l->text();
+            }
         }
         return {};
     }
