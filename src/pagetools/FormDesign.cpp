@@ -281,7 +281,9 @@ void FormDesign::pressed(Qt::MouseButton button, QPoint at)
     cmdSaveMap->show();
     if (drawingKind == 1) {
         setCoordinates(crd + ImageMapText::circleCoords(outline));
-        picDesign->drawEllipse(outline, colour);
+        const ImageMapText::CircleArea c = ImageMapText::circleIn(outline);
+        const int r = int(qMax<long long>(0, c.radius));
+        picDesign->drawEllipse(QRect(int(c.x) - r, int(c.y) - r, 2 * r, 2 * r), colour);
         addAreaLine(ImageMapText::Shape::Circle);
     } else {
         setCoordinates(crd + ImageMapText::rectCoords(outline));

@@ -29,15 +29,18 @@ QString tail(const QString& imageTitle, const QString& mapName, const QString& w
            QStringLiteral("<!-- End Image Map Copy Here -->");
 }
 
-QString circleCoords(const QRect& outline)
+CircleArea circleIn(const QRect& outline)
 {
     // Whole parts, as the floor takes them (an outline may stand partly left of the picture).
     const auto whole = [](double v) { return static_cast<long long>(std::floor(v)); };
     const double halfWidth = outline.width() / 2.0, halfHeight = outline.height() / 2.0;
-    return QStringLiteral("%1,%2,%3")
-        .arg(whole(outline.left() + halfWidth))
-        .arg(whole(outline.top() + halfHeight))
-        .arg(whole(halfWidth - 4));
+    return {whole(outline.left() + halfWidth), whole(outline.top() + halfHeight), whole(halfWidth - 4)};
+}
+
+QString circleCoords(const QRect& outline)
+{
+    const CircleArea c = circleIn(outline);
+    return QStringLiteral("%1,%2,%3").arg(c.x).arg(c.y).arg(c.radius);
 }
 
 QString rectCoords(const QRect& outline)

@@ -13,8 +13,13 @@ QString head(const QString& mapName);
 QString areaLine(Shape shape, const QString& coords, const QString& address);
 QString tail(const QString& imageTitle, const QString& mapName, const QString& width, const QString& height);
 
-// The coordinates of the circle inside an outline: the centre (whole parts of the outline's
-// middle) and a radius four less than half the outline's width, so the circle lies just inside.
+// The circle inside an outline: the centre (whole parts of the outline's middle) and a radius
+// four less than half the outline's width, so the circle lies just inside.
+struct CircleArea {
+    long long x, y, radius;
+};
+CircleArea circleIn(const QRect& outline);
+// Its coordinates as the area line takes them.
 QString circleCoords(const QRect& outline);
 // The corners of a box: left, top, right (left + width), bottom (top + height).
 QString rectCoords(const QRect& outline);

@@ -145,6 +145,7 @@ TEST_F(FormDesignTest, EachKindOfShapeWritesItsAreaLine)
     EXPECT_EQ(w->picDesign->crcl.size(), QSize(41, 41)) << "the circle stays round";
     prompts.answerInput(QStringLiteral("round.htm"));
     click(w, Qt::RightButton, QPoint(0, 0));
+    saveShot(w, QStringLiteral("FormDesign-shapes"));
 
     EXPECT_EQ(w->html(),
               head + QStringLiteral("    <AREA SHAPE=\"POLY\" COORDS=10,20,30,40,50,60\"   HREF=\"poly.htm\">\r\n") +

@@ -251,7 +251,7 @@ TEST_F(HelpPages, EveryPageIsUtf8WithCrLfLines)
     QList<std::pair<QString, QByteArray>> files;
     for (const Page& p : *pages)
         files.append({p.name, p.bytes});
-    files.append({QStringLiteral("help.css"), readBytes(helpFolder() + QStringLiteral("/help.css"))});
+    files.append({QStringLiteral("style/help.css"), readBytes(helpFolder() + QStringLiteral("/style/help.css"))});
     for (const auto& [name, bytes] : files) {
         SCOPED_TRACE(name.toStdString());
         ASSERT_FALSE(bytes.isEmpty());
@@ -289,7 +289,7 @@ TEST_F(HelpPages, EveryPageIsAStandaloneHtml5Document)
             if (t.name == QLatin1String("meta") && t.attributes.value(QStringLiteral("charset")).compare(QLatin1String("utf-8"), Qt::CaseInsensitive) == 0)
                 charset = true;
             if (t.name == QLatin1String("link") && t.attributes.value(QStringLiteral("rel")) == QLatin1String("stylesheet"))
-                sheet = t.attributes.value(QStringLiteral("href")) == QLatin1String("help.css");
+                sheet = t.attributes.value(QStringLiteral("href")) == QLatin1String("style/help.css");
             if (t.name == QLatin1String("script") || t.attributes.keys().filter(QRegularExpression(QStringLiteral("^on"))).size())
                 script = true;
             // Every element but the void ones is closed, in order.
