@@ -1,6 +1,7 @@
 #include "platform/Look.h"
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -14,6 +15,24 @@ QPushButton* faceButton(const QString& name, const QString& caption, QWidget* pa
     if (caption == QLatin1String("...."))
         b->setMaximumWidth(36);
     return b;
+}
+
+QFrame* banner(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* shape = named(new QFrame(parent), name);
+    shape->setAutoFillBackground(true);
+    QPalette p = shape->palette();
+    p.setColor(QPalette::Window, Look::heading);
+    p.setColor(QPalette::WindowText, Qt::white);
+    shape->setPalette(p);
+    auto* row = new QHBoxLayout(shape);
+    auto* title = new QLabel(caption, shape);
+    QFont f = title->font();
+    f.setBold(true);
+    f.setPointSizeF(f.pointSizeF() * 1.2);
+    title->setFont(f);
+    row->addWidget(title);
+    return shape;
 }
 
 QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel)

@@ -25,6 +25,9 @@ W* named(W* w, const QString& name)
 
 // A button in the face colour; a "...." button stays narrow.
 QPushButton* faceButton(const QString& name, const QString& caption, QWidget* parent);
+// The banner across the top of a tool window: the shape in the heading colour with the caption
+// in white, bold and a little larger.
+QFrame* banner(const QString& name, const QString& caption, QWidget* parent);
 // A frame (one page of a window) with a heading bar; the heading label is handed out on request.
 QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr);
 }

@@ -21,19 +21,7 @@ WizardDialog::WizardDialog(const QString& caption, Refusal refusal, QWidget* par
     outer->setContentsMargins(0, 0, 0, 8);
 
     // The header shape, in the heading colour, with the caption in it.
-    banner = Look::named(new QFrame(this), QStringLiteral("Shape2"));
-    banner->setAutoFillBackground(true);
-    QPalette p = banner->palette();
-    p.setColor(QPalette::Window, Look::heading);
-    p.setColor(QPalette::WindowText, Qt::white);
-    banner->setPalette(p);
-    auto* bannerRow = new QHBoxLayout(banner);
-    auto* title = new QLabel(caption, banner);
-    QFont f = title->font();
-    f.setBold(true);
-    f.setPointSizeF(f.pointSizeF() * 1.2);
-    title->setFont(f);
-    bannerRow->addWidget(title);
+    banner = Look::banner(QStringLiteral("Shape2"), caption, this);
     outer->addWidget(banner);
 
     rowLayout = new QFormLayout;

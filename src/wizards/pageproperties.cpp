@@ -128,19 +128,7 @@ pageproperties::pageproperties(QWidget* parent) : QDialog(parent)
     outer->setContentsMargins(0, 0, 0, 8);
 
     // The header shape, in the heading colour, as on every wizard.
-    auto* banner = Look::named(new QFrame(this), QStringLiteral("Shape3"));
-    banner->setAutoFillBackground(true);
-    QPalette p = banner->palette();
-    p.setColor(QPalette::Window, Look::heading);
-    p.setColor(QPalette::WindowText, Qt::white);
-    banner->setPalette(p);
-    auto* bannerRow = new QHBoxLayout(banner);
-    auto* title = new QLabel(windowTitle(), banner);
-    QFont f = title->font();
-    f.setBold(true);
-    f.setPointSizeF(f.pointSizeF() * 1.2);
-    title->setFont(f);
-    bannerRow->addWidget(title);
+    QFrame* banner = Look::banner(QStringLiteral("Shape3"), windowTitle(), this);
     outer->addWidget(banner);
 
     SSTab1 = Look::named(new QTabWidget(this), QStringLiteral("SSTab1"));
