@@ -1,13 +1,16 @@
 #include "pagetools/Quick.h"
 
+#include "documents/DocumentWindow.h"
+#include "documents/Insertion.h"
 #include "pagetools/IndexPanel.h"
 #include "pagetools/QuickNotes.h"
-#include "platform/FileControls.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
+#include "platform/FileControls.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "services/Commands.h"
 
@@ -19,9 +22,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRadioButton>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -60,7 +63,13 @@ Quick::Quick(QWidget* parent) : QDialog(parent)
 
     CodeMax1 = noteEditor(QStringLiteral("CodeMax1"), this);
     count1 = Look::named(new QLabel(this), QStringLiteral("count1"));
-    auto* opened = group(QStringLiteral("Current Quick Note Opened ::"), this, {CodeMax1, count1});
+    loadButton = Look::faceButton(QStringLiteral("loadButton"), QStringLiteral("Load Into Document"), this);
+    auto* openedRow = new QWidget(this);
+    auto* openedLayout = new QHBoxLayout(openedRow);
+    openedLayout->setContentsMargins(0, 0, 0, 0);
+    openedLayout->addWidget(count1, 1);
+    openedLayout->addWidget(loadButton);
+    auto* opened = group(QStringLiteral("Current Quick Note Opened ::"), this, {CodeMax1, openedRow});
 
     CodeMax2 = noteEditor(QStringLiteral("CodeMax2"), this);
     count2 = Look::named(new QLabel(this), QStringLiteral("count2"));
@@ -90,10 +99,11 @@ Quick::Quick(QWidget* parent) : QDialog(parent)
     connect(CodeMax1, &CodeMax::Change, this, [this] { showCount(count1, CodeMax1); });
     connect(CodeMax2, &CodeMax::Change, this, [this] { showCount(count2, CodeMax2); });
     // Nothing in this window is a default button: Enter belongs to the search box and the editors.
-    for (QPushButton* b : {SmartNetButton1, SmartNetButton3})
+    connect(loadButton, &QPushButton::clicked, this, Event([this] { loadIntoDocument(); }));
+    for (QPushButton* b : {SmartNetButton1, SmartNetButton3, loadButton})
         b->setAutoDefault(false);
     const QList<QWidget*> order = {index->List2, index->Text1, index->SmartNetButton2, index->Option1, index->Option2,
-                                   SmartNetButton3, CodeMax1, CodeMax2, txtname, SmartNetButton1};
+                                   SmartNetButton3, CodeMax1, loadButton, CodeMax2, txtname, SmartNetButton1};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
     showCount(count1, CodeMax1);
@@ -146,6 +156,20 @@ void Quick::SmartNetButton3_Click()
     MsgBox(QStringLiteral("You can use this part of Velloro to save small bits of code that you use regually.\r\n"
                           "You can enter nothing into the search to get full listing.\r\n"
                           "You can access this quickly by pressing Ctrl F1"));
+}
+
+void Quick::loadIntoDocument()
+{
+    DocumentWindow* doc = ActiveForm();
+    if (!doc) {
+        MsgBox(QStringLiteral("There is no document open to load the note into."), Style::Exclamation);
+        return;
+    }
+    const QString note = CodeMax1->text();
+    if (ActiveIsNotepad())
+        doc->RichTextBox1()->setSelText(note);
+    else
+        InsertAtCaret(note);
 }
 
 QMenu* Quick::editingMenu(const QString& name, CodeMax* editor)

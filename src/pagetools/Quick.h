@@ -25,6 +25,8 @@ public:
     void List2_DblClick();
     void SmartNetButton1_Click();  // save the new note
     void SmartNetButton3_Click();  // help
+    // The opened note into the active document at its caret (a page's editor or a notepad's text).
+    void loadIntoDocument();
 
     // The notes' index: List1, List2, File1, Text1, Option1, Option2, Bar and the search
     // button SmartNetButton2.
@@ -32,7 +34,7 @@ public:
     QLineEdit* txtname = nullptr;
     CodeMax *CodeMax1 = nullptr, *CodeMax2 = nullptr;
     QMenu *SmartMenuXP1 = nullptr, *SmartMenuXP2 = nullptr;
-    QPushButton *SmartNetButton1 = nullptr, *SmartNetButton3 = nullptr;
+    QPushButton *SmartNetButton1 = nullptr, *SmartNetButton3 = nullptr, *loadButton = nullptr;
     // The count line beside each editor.
     QLabel *count1 = nullptr, *count2 = nullptr;
 

@@ -4,7 +4,10 @@
 
 #include "pagetools/IndexPanel.h"
 #include "pagetools/Quick.h"
+#include "documents/frmDocument.h"
+#include "documents/notepad.h"
 #include "platform/CodeMax.h"
+#include "platform/RichTextBox.h"
 #include "platform/Forms.h"
 #include "shell/frmMain.h"
 
@@ -194,4 +197,24 @@ TEST_F(QuickTest, SearchesTheNamesAndTellsItsHelp)
     w->CodeMax2->setText(QStringLiteral("abc"));
     w->SmartMenuXP2->findChild<QAction*>(QStringLiteral("SelectAll"))->trigger();
     EXPECT_EQ(w->CodeMax2->selectedText(), QStringLiteral("abc"));
+}
+
+TEST_F(QuickTest, TheOpenedNoteGoesIntoTheActiveDocument)
+{
+    Quick* w = open();
+    ASSERT_NE(w, nullptr);
+    w->CodeMax1->setText(QStringLiteral("<hr>"));
+    prompts.answerMsgBox(Answer::OK);
+    w->loadButton->click();
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("There is no document open to load the note into."), 48));
+
+    frmDocument* page = newPage(QStringLiteral("[]"));
+    page->CodeMax1()->setCursorPosition(0, 1);
+    w->loadButton->click();
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("[<hr>]"));
+    notepad* pad = newPad(QStringLiteral("ab"));
+    pad->RichTextBox1()->setSelStart(1);
+    w->loadButton->click();
+    EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("a<hr>b"));
+    EXPECT_EQ(prompts.prompts().size(), 1);
 }
