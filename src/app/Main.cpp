@@ -13,6 +13,7 @@
 #include "shell/frmSplash.h"
 #include "shell/modMain.h"
 #include "spelling/Registration.h"
+#include "utilities/Registration.h"
 #include "wizards/Registration.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,7 @@ void registerEverything()
     registerFtp();
     registerWizards();
     registerPagetools();
+    registerUtilities();
     // Last: the menu's own branches fill in what the features have not claimed.
     registerShell();
 }

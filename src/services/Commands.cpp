@@ -99,7 +99,6 @@ constexpr const char* notYetBuilt[] = {
     "sidebar",
     "cfinderform",
     "CSSform",
-    "Folders",
     "CSSCREATE",
     "frmscrollbar",
     "StyleLink",

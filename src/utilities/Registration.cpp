@@ -1,0 +1,11 @@
+#include "utilities/Registration.h"
+
+#include "platform/Forms.h"
+#include "utilities/Folders.h"
+
+void registerUtilities()
+{
+    registerForm<Folders>();
+    registerForm<frmFolder>();
+    registerForm<Execute>();
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+// The network and file utilities' windows.
+void registerUtilities();
