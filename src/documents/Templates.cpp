@@ -75,7 +75,7 @@ Templates::Templates(QWidget* parent) : QDialog(parent)
     auto* outer = new QHBoxLayout(this);
     outer->addLayout(choose, 0);
     outer->addLayout(preview, 1);
-    Tree->setMinimumWidth(240);
+    Tree->setMinimumWidth(270);
 
     for (QPushButton* b : {Command1, Command2})
         b->setAutoDefault(false);
