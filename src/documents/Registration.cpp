@@ -3,6 +3,7 @@
 #include "documents/OpenSave.h"
 #include "documents/Openform.h"
 #include "documents/Saveas.h"
+#include "documents/Templates.h"
 #include "documents/findform.h"
 #include "documents/frmgoto.h"
 #include "documents/tmplsave.h"
@@ -16,6 +17,7 @@ void registerDocuments()
     registerForm<tmplsave>();
     registerForm<findform>();
     registerForm<frmgoto>();
+    registerForm<Templates>();
 
     Commands::add(QStringLiteral("Save"), [] { MenuSave(); });
     Commands::add(QStringLiteral("Save As"), [] { MenuSaveAs(); });

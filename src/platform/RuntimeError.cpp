@@ -17,6 +17,7 @@ RuntimeError RuntimeError::fileNotFound(const QString& src) { return {53, QStrin
 RuntimeError RuntimeError::deviceIoError(const QString& src) { return {57, QStringLiteral("Device I/O error"), src}; }
 RuntimeError RuntimeError::fileAlreadyExists(const QString& src) { return {58, QStringLiteral("File already exists"), src}; }
 RuntimeError RuntimeError::pathFileAccess(const QString& src) { return {75, QStringLiteral("Path/File access error"), src}; }
+RuntimeError RuntimeError::pathNotFound(const QString& src) { return {76, QStringLiteral("Path not found"), src}; }
 RuntimeError RuntimeError::objectNotSet(const QString& src)
 {
     return {91, QStringLiteral("Object variable or With block variable not set"), src};

@@ -24,6 +24,7 @@ struct RuntimeError : std::exception {
     static RuntimeError fileAlreadyExists(const QString& src = {}); // 58
     static RuntimeError pastEndOfFile(const QString& src = {});    // 62
     static RuntimeError pathFileAccess(const QString& src = {});   // 75
+    static RuntimeError pathNotFound(const QString& src = {});     // 76
     static RuntimeError objectNotSet(const QString& src = {});     // 91
     static RuntimeError objectRequired(const QString& src = {});   // 424
     static RuntimeError invalidPicture(const QString& src = {});   // 481
