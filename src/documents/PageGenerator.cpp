@@ -3,6 +3,7 @@
 #include "documents/frmDocument.h"
 #include "documents/frmsplit.h"
 #include "platform/CodeMax.h"
+#include "platform/Prompts.h"
 #include "platform/WindowCounter.h"
 #include "services/Workspace.h"
 
@@ -10,7 +11,7 @@
 
 namespace {
 // The generator's own counters: generated page, start-up page, split page.
-WindowCounter generatedPages, startupPages, splitPages;
+WindowCounter generatedPages, startupPages, splitPages, framePages;
 
 template <class Window>
 Window* newPageWindow(WindowCounter& counter)
@@ -47,6 +48,23 @@ DocumentWindow* GenerateSplitPage(const PageText::Fields& fields)
     doc->CodeMax1()->setText(PageText::plainPage(fields));
     nameAfterTitle(doc, fields.title);
     return doc;
+}
+
+void GenerateFrames(FrameSetText::Layout layout, const FrameSetText::Fields& fields)
+{
+    const QStringList pages = FrameSetText::pages(layout, fields);
+    // The second page keeps the contents caption in both layouts, though the rows call it the header.
+    const QString captions[] = {QStringLiteral("Index Page"), QStringLiteral("Contents Page"), QStringLiteral("Main Page")};
+    for (int i = 0; i < 3; ++i) {
+        auto* doc = newPageWindow<frmDocument>(framePages);
+        doc->setCaption(captions[i]);
+        workspace().setDocumentCaption(captions[i]);
+        doc->CodeMax1()->setText(pages[i]);
+    }
+    const bool columns = layout == FrameSetText::Layout::Columns;
+    MsgBox(columns ? QStringLiteral("Frames Created") : QStringLiteral("Frames have been created"), Style::Information,
+           columns ? QStringLiteral(":: Confirmation ::") : QStringLiteral(":: Completion ::"));
+    workspace().setStatusText(1, QStringLiteral("Page Loaded :: Frames Have Been Created"));
 }
 
 void CreateStartupPage()

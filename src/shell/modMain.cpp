@@ -26,6 +26,7 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QLineEdit>
 
 namespace {
 void fillMainLists()
@@ -116,6 +117,12 @@ void registerShell()
     Commands::add(QStringLiteral("Exit"), [] { CloseAllWindows(); });
     Commands::add(QStringLiteral("Quick html Page"), [] { form<Startup>()->GenerateWebPage(); });
     Commands::add(QStringLiteral("Quick Split html Page"), [] { form<Startup>()->GenerateSplitPage(); });
+    // The start screen's two frame layouts, from its frame fields.
+    for (const auto& [key, layout] : {std::pair{"frame1", FrameSetText::Layout::Columns}, std::pair{"frame2", FrameSetText::Layout::Rows}})
+        Commands::add(QString::fromLatin1(key), [layout] {
+            const Startup* s = form<Startup>();
+            GenerateFrames(layout, {s->frsp->text(), s->bo->text(), s->frbo->text(), s->frco->text(), s->Text5->text()});
+        });
     Commands::add(QStringLiteral("Save Layout"), [] { form<AppProperties>()->SaveProperties(); });
     Commands::add(QStringLiteral("Load Layout"), [] { form<AppProperties>()->LoadProperties(); });
     registerMenuCommands();

@@ -10,10 +10,12 @@
 #include "shell/frmMain.h"
 
 #include <QCheckBox>
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolBar>
 
 namespace {
 const QString head = QStringLiteral(
@@ -175,4 +177,53 @@ TEST_F(GeneratorTest, ColourButtonsFillTheFieldsWithQuotes)
     prompts.answerColour(std::nullopt);
     startup->Command3->click();
     EXPECT_EQ(startup->Text3->text(), QStringLiteral("\"#000000\""));
+}
+
+// The start screen's two frame layouts: three new pages each, their captions and texts, the
+// message and the status line; values go in as they stand.
+TEST_F(GeneratorTest, FrameLayoutsMakeThreePages)
+{
+    const QString frameHead = QStringLiteral(
+        "<html>\r\n<head>\r\n<meta name=\"GENERATOR\" content=\"Velloro 2002\">\r\n<meta name=\"AUTHOR\" content=\"Ansel Corby\">\r\n");
+    const QString framePage = QStringLiteral("</head>\r\n\r\n<body bgColor=#000033>\r\n\r\n\r\n\r\n</body>\r\n\r\n</html>");
+    startup->frsp->setText(QStringLiteral("0"));
+    startup->bo->clear();
+    startup->frbo->setText(QStringLiteral("no"));
+    startup->frco->setText(QStringLiteral("25%"));
+    startup->Text5->setText(QStringLiteral("#000033"));
+    const struct {
+        const char* key;
+        QString index;
+        QString second;
+        QString message, title;
+    } layouts[] = {
+        {"frame1",
+         QStringLiteral("<title> Index </title>\r\n</head>\r\n\r\n<frameset framespacing=0 border= frameborder=no cols=25%,*>\r\n"
+                        "<frame name=contents target=main src=contents.html>\r\n<frame name=main src=main.html>\r\n"
+                        "<noframes>\r\n\r\n<body>\r\n\r\n\r\n</body>\r\n</noframes>\r\n</frameset>\r\n</html>"),
+         QStringLiteral("<title> Content Menu </title>\r\n"), QStringLiteral("Frames Created"), QStringLiteral(":: Confirmation ::")},
+        {"frame2",
+         QStringLiteral("<title> Index </title>\r\n</head>\r\n\r\n<Frameset framespacing=0 border= frameborder=no rows=25%,*>\r\n"
+                        "<frame name=Header target=main src=Header.html>\r\n<frame name=main src=main.html>\r\n"
+                        "<noframes>\r\n\r\n<body>\r\n\r\n\r\n</body>\r\n</noframes>\r\n</Frameset>\r\n</html>"),
+         QStringLiteral("<title> Header Menu </title>\r\n"), QStringLiteral("Frames have been created"), QStringLiteral(":: Completion ::")},
+    };
+    for (const auto& l : layouts) {
+        const int before = main->findChildren<DocumentWindow*>().size();
+        prompts.answerMsgBox(Answer::OK);
+        startup->Toolbar1->findChild<QAction*>(QString::fromLatin1(l.key))->trigger();
+        EXPECT_TRUE(isBox(prompts.last(), l.message, 64, l.title)) << l.key;
+        EXPECT_EQ(main->statusText(1), QStringLiteral("Page Loaded :: Frames Have Been Created"));
+        QList<DocumentWindow*> docs = main->findChildren<DocumentWindow*>();
+        ASSERT_EQ(docs.size(), before + 3) << l.key;
+        docs = docs.mid(before);
+        EXPECT_EQ(docs[0]->windowTitle(), QStringLiteral("Index Page"));
+        EXPECT_EQ(docs[1]->windowTitle(), QStringLiteral("Contents Page")) << "also for the header row";
+        EXPECT_EQ(docs[2]->windowTitle(), QStringLiteral("Main Page"));
+        EXPECT_EQ(docs[0]->CodeMax1()->text(), frameHead + l.index);
+        EXPECT_EQ(docs[1]->CodeMax1()->text(), frameHead + l.second + framePage);
+        EXPECT_EQ(docs[2]->CodeMax1()->text(), frameHead + QStringLiteral("<title> Main Document </title>\r\n") + framePage);
+        for (DocumentWindow* d : docs)
+            EXPECT_TRUE(d->tempaddress()->text().isEmpty()) << "nothing is saved";
+    }
 }
