@@ -97,7 +97,6 @@ constexpr const char* notYetBuilt[] = {
     "sourcepage",
     "PProperties",
     "sidebar",
-    "cfinderform",
     "CSSform",
     "Folders",
     "CSSCREATE",
