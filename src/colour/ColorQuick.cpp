@@ -1,5 +1,6 @@
 #include "colour/ColorQuick.h"
 
+#include "colour/ColourFace.h"
 #include "colour/ColourMixing.h"
 #include "colour/ColourText.h"
 #include "documents/Insertion.h"
@@ -17,13 +18,6 @@
 
 namespace {
 constexpr int columns = 8;
-
-// Dark faces carry white text, light ones black, so that every text reads.
-QString textColourOn(int platformColour)
-{
-    const ColourMixing::Channels c = ColourMixing::split(platformColour);
-    return c.red * 299 + c.green * 587 + c.blue * 114 < 128000 ? QStringLiteral("white") : QStringLiteral("black");
-}
 }
 
 ColorQuick::ColorQuick(QWidget* parent) : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint)
@@ -74,9 +68,7 @@ void ColorQuick::Form_Load()
         QPushButton* b = SmartNetButton[n - 1];
         b->setText(text);
         b->setToolTip(text);
-        b->setStyleSheet(QStringLiteral("QPushButton { background-color: %1; color: %2; border: 1px solid #808080; padding: 1px; }"
-                                        "QPushButton:hover { border: 2px solid %3; }")
-                             .arg(ColourText::bare(colour), textColourOn(colour), Look::face.name()));
+        setColourFace(b, colour);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "colour/cfinderform.h"
 
+#include "colour/ColourFace.h"
 #include "colour/ColourMixing.h"
 #include "colour/ColourPictures.h"
 #include "colour/ColourSwatch.h"
@@ -34,16 +35,6 @@ QWidget* settingsWindow(bool create)
 // The twins of preset n in the settings: "Pre-set 1" is Text2 with Shape6, and so on.
 QString twinField(int n) { return QStringLiteral("Text%1").arg(n + 1); }
 QString twinShape(int n) { return QStringLiteral("Shape%1").arg(7 - n); }
-
-QPushButton* colourButton(const QString& name, int colour, QWidget* parent)
-{
-    auto* b = Look::named(new QPushButton(parent), name);
-    b->setFixedSize(34, 26);
-    b->setStyleSheet(QStringLiteral("QPushButton { background-color: %1; border: 1px solid #808080; }"
-                                    "QPushButton:hover { border: 2px solid %2; }")
-                         .arg(ColourText::bare(colour), Look::face.name()));
-    return b;
-}
 }
 
 cfinderform::cfinderform(QWidget* parent) : QDialog(parent)
@@ -74,7 +65,7 @@ cfinderform::cfinderform(QWidget* parent) : QDialog(parent)
     FrMixer = Look::named(new QFrame(this), QStringLiteral("FrMixer"));
     FrMixer->setFrameShape(QFrame::StyledPanel);
     ColPal = new PalettePicture(QStringLiteral("ColPal"), FrMixer);
-    ColPal->setMinimumSize(300, 170);
+    ColPal->setMinimumSize(280, 180);
     Piccolor = new ShadeBar(QStringLiteral("Piccolor"), FrMixer);
     Piccolor->setFixedWidth(36);
     auto* blender = new QVBoxLayout;
@@ -92,10 +83,11 @@ cfinderform::cfinderform(QWidget* parent) : QDialog(parent)
     for (int i = 0; i < int(ColourMixing::namedColours.size()); ++i) {
         const auto& entry = ColourMixing::namedColours[i];
         const QString text = QString::fromLatin1(entry.text);
-        named[i] = colourButton(QStringLiteral("SmartNetButton%1").arg(entry.button),
-                                ColourText::toPlatformValue(text, 0), frWSafe);
+        named[i] = Look::named(new QPushButton(text, frWSafe), QStringLiteral("SmartNetButton%1").arg(entry.button));
+        named[i]->setMinimumSize(64, 40);
         named[i]->setToolTip(text);
-        grid->addWidget(named[i], i / 8, i % 8);
+        setColourFace(named[i], ColourText::toPlatformValue(text, 0));
+        grid->addWidget(named[i], i / 4, i % 4);
         const int n = entry.button;
         connect(named[i], &QPushButton::clicked, this, Event([this, n] { namedColour_Click(n); }));
     }
@@ -154,8 +146,10 @@ cfinderform::cfinderform(QWidget* parent) : QDialog(parent)
                                    Text3, Command9, Command12, Text4, Command10, Command13};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
-    resize(560, 560);
     showMixer(true);
+    // As tall as the wrapped note needs at this width, no more: the window fits a small screen.
+    constexpr int width = 520;
+    resize(width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height());
 }
 
 void cfinderform::Form_Load()

@@ -18,6 +18,7 @@
 
 #include <QComboBox>
 #include <QPainter>
+#include <QScreen>
 #include <QPixmap>
 #include <QToolBar>
 #include <QToolButton>
@@ -203,7 +204,15 @@ void frmMain::buildButtonBars()
     quickColour->setEnabled(Forms::hasFactory(QStringLiteral("ColorQuick")));
     Picture[2]->addWidget(quickColour);
     connect(quickColour, &QToolButton::clicked, this, Event([this] {
-        Forms::get(QStringLiteral("ColorQuick"))->move(quickColour->mapToGlobal(QPoint(0, quickColour->height())));
+        QWidget* palette = Forms::get(QStringLiteral("ColorQuick"));
+        palette->adjustSize();
+        QPoint at = quickColour->mapToGlobal(QPoint(0, quickColour->height()));
+        // Whole on the screen: near its right edge the palette moves left.
+        if (const QScreen* s = quickColour->screen()) {
+            const QRect room = s->availableGeometry();
+            at.setX(qMax(room.left(), qMin(at.x(), room.right() + 1 - palette->width())));
+        }
+        palette->move(at);
         showForm(QStringLiteral("ColorQuick"));
     }));
     connect(Combo1, &QComboBox::textActivated, this, Event([](const QString& t) { OnErrorExit([&] { applyFontSize(t); }); }));

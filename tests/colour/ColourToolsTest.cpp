@@ -26,6 +26,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QToolButton>
 
@@ -325,20 +326,21 @@ TEST_F(ColourToolsTest, ScreenPixelOnX11)
 
     cfinderform* w = openFinder();
     ASSERT_NE(w, nullptr);
-    w->move(300, 100);
+    // Near the top of the screen, so that the bar's upper bands are on it at any scale.
+    w->move(0, 0);
     w->raise();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(w));
     QTest::qWait(200);
-    // Band 2 of the loaded bar is grey 13: "#0D0D0D".
-    const QPoint band2 = w->Piccolor->mapToGlobal(w->Piccolor->bandRect(2).center());
-    QCursor::setPos(band2);
+    // Band 14 of the loaded bar is grey 184: "#B8B8B8", in capitals.
+    const QPoint band14 = w->Piccolor->mapToGlobal(w->Piccolor->bandRect(14).center());
+    QCursor::setPos(band14);
     QTest::qWait(50);
-    QTest::mouseClick(w->Piccolor, Qt::LeftButton, Qt::NoModifier, w->Piccolor->bandRect(2).center());
-    EXPECT_EQ(w->txtcolor->text(), QStringLiteral("#0D0D0D"));
-    EXPECT_EQ(w->Picture1->BackColor(), 0x0D0D0D);
+    QTest::mouseClick(w->Piccolor, Qt::LeftButton, Qt::NoModifier, w->Piccolor->bandRect(14).center());
+    EXPECT_EQ(w->txtcolor->text(), QStringLiteral("#B8B8B8"));
+    EXPECT_EQ(w->Picture1->BackColor(), 0xB8B8B8);
     // The same position again reads nothing.
     w->txtcolor->setText(QStringLiteral("typed"));
-    w->Piccolor_Click(band2);
+    w->Piccolor_Click(band14);
     EXPECT_EQ(w->txtcolor->text(), QStringLiteral("typed"));
     // Band 19 (grey 235) elsewhere: "#EBEBEB".
     w->Piccolor_Click(w->Piccolor->mapToGlobal(w->Piccolor->bandRect(19).center()));
@@ -347,12 +349,22 @@ TEST_F(ColourToolsTest, ScreenPixelOnX11)
 
 TEST_F(ColourToolsTest, QuickPaletteFacesAndTexts)
 {
+    // It drops below its button on the formatting bar, whole on the screen.
+    QToolButton* opener = frmMain::instance()->quickColour;
     ColorQuick* w = openPalette();
     ASSERT_NE(w, nullptr);
+    const QPoint below = opener->mapToGlobal(QPoint(0, opener->height()));
+    const QRect room = opener->screen()->availableGeometry();
+    EXPECT_EQ(w->y(), below.y());
+    EXPECT_EQ(w->x(), qMin(below.x(), room.right() + 1 - w->width()));
+    // Near the right edge it moves left to stay whole.
+    frmMain::instance()->move(room.right() - opener->mapTo(frmMain::instance(), QPoint(0, 0)).x() - 10, 0);
+    processEvents();
+    w->hide();
+    opener->click();
+    EXPECT_LE(w->frameGeometry().right(), room.right());
+    EXPECT_TRUE(w->isVisible());
     saveShot(w, QStringLiteral("ColorQuick"));
-    // It drops below its button on the formatting bar.
-    QToolButton* opener = frmMain::instance()->quickColour;
-    EXPECT_EQ(w->pos(), opener->mapToGlobal(QPoint(0, opener->height())));
     EXPECT_TRUE(w->windowFlags() & Qt::FramelessWindowHint);
     for (int n = 1; n <= 56; ++n) {
         const auto& want = PaletteTables::quick[n - 1];
