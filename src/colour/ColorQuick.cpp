@@ -28,7 +28,7 @@ ColorQuick::ColorQuick(QWidget* parent) : QWidget(parent, Qt::Tool | Qt::Framele
     setAutoFillBackground(true);
 
     // The banner: the heading colour, and the handle the window is moved by.
-    auto* banner = Look::named(new QFrame(this), QStringLiteral("Shape1"));
+    auto* banner = Look::named(new QFrame(this), QStringLiteral("banner"));
     banner->setAutoFillBackground(true);
     QPalette p = banner->palette();
     p.setColor(QPalette::Window, Look::heading);

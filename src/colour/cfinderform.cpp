@@ -45,7 +45,7 @@ cfinderform::cfinderform(QWidget* parent) : QDialog(parent)
 
     // The header shape in the heading colour, as on every dialog.
     QLabel* heading = nullptr;
-    QFrame* banner = Look::headedFrame(QStringLiteral("Shape4"), QStringLiteral("Color Finder ::"), this, &heading);
+    QFrame* banner = Look::headedFrame(QStringLiteral("banner"), QStringLiteral("Color Finder ::"), this, &heading);
     banner->layout()->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(banner);
 

@@ -425,7 +425,7 @@ TEST_F(ColourToolsTest, QuickPaletteHidesMovesAndLeadsToTheFinder)
     // A drag on its banner moves it.
     w = openPalette();
     w->move(200, 200);
-    QWidget* banner = w->findChild<QWidget*>(QStringLiteral("Shape1"));
+    QWidget* banner = w->findChild<QWidget*>(QStringLiteral("banner"));
     ASSERT_NE(banner, nullptr);
     const QPoint grip(6, 6);
     QTest::mousePress(banner, Qt::LeftButton, Qt::NoModifier, grip);
