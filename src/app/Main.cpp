@@ -1,5 +1,6 @@
 #include "app/Main.h"
 
+#include "colour/Registration.h"
 #include "documents/Registration.h"
 #include "ftp/Registration.h"
 #include "pagetools/Registration.h"
@@ -33,6 +34,7 @@ void registerEverything()
     registerWizards();
     registerPagetools();
     registerUtilities();
+    registerColourTools();
     // Last: the menu's own branches fill in what the features have not claimed.
     registerShell();
 }

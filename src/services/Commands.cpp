@@ -96,7 +96,6 @@ constexpr const char* notYetBuilt[] = {
     "sourcepage",
     "PProperties",
     "sidebar",
-    "cfinderform",
     "CSSform",
     "CSSCREATE",
     "frmscrollbar",

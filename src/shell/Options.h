@@ -25,8 +25,9 @@ public:
 
     DetailsRecord values() const;
     void setValues(const DetailsRecord& r);
-    // Writes the 29 fields from the controls and hides the dialog.
-    void ApplyDetails();
+    // Writes the 29 fields from the controls and hides the dialog. Other windows that change a
+    // setting (the colour finder's presets) run it by name.
+    Q_INVOKABLE void ApplyDetails();
     // Shows the page of a tree key ("root", "frstartup", ..., "frsave").
     void showPage(const QString& key);
     QString visiblePage() const;

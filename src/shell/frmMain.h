@@ -94,6 +94,8 @@ public:
     QMenuBar* SmartMenuXP1 = nullptr;
     QToolBar* Picture[5] = {};
     QComboBox *Combo1 = nullptr, *Combo2 = nullptr, *Combo4 = nullptr;
+    // Drops the quick colour palette below itself.
+    QToolButton* quickColour = nullptr;
     QFrame* LeftTool = nullptr;
     QFrame *frfiles = nullptr, *frproject = nullptr, *frjavascript = nullptr, *frchr = nullptr, *frlibrary = nullptr;
     DirListBox* PicBrowse = nullptr;

@@ -5,6 +5,7 @@
 #include "documents/OpenSave.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
+#include "platform/Forms.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
@@ -16,6 +17,9 @@
 #include "shell/frmMain.h"
 
 #include <QComboBox>
+#include <QPainter>
+#include <QScreen>
+#include <QPixmap>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -122,6 +126,20 @@ std::function<void()> barOnlyCommand(int number)
     }
 }
 
+// Four colour squares: the picture of the quick palette's button.
+QIcon paletteIcon()
+{
+    QPixmap picture(20, 20);
+    picture.fill(Qt::transparent);
+    QPainter p(&picture);
+    const QColor squares[] = {QColor(255, 0, 0), QColor(0, 128, 0), QColor(0, 0, 255), QColor(255, 204, 0)};
+    for (int i = 0; i < 4; ++i)
+        p.fillRect(QRect(1 + (i % 2) * 9, 1 + (i / 2) * 9, 8, 8), squares[i]);
+    p.setPen(QColor(64, 64, 64));
+    p.drawRect(0, 0, 19, 19);
+    return QIcon(picture);
+}
+
 QToolButton* barButton(QWidget* parent, int number, const QString& tip, const QString& picture)
 {
     auto* b = new QToolButton(parent);
@@ -177,6 +195,26 @@ void frmMain::buildButtonBars()
     Picture[2]->addWidget(Combo4);
     Picture[2]->addWidget(Combo1);
     Picture[2]->addWidget(Combo2);
+
+    // The quick colour palette drops from its own button, below it.
+    quickColour = Look::named(new QToolButton(Picture[2]), QStringLiteral("quickColour"));
+    quickColour->setToolTip(QStringLiteral("Quick Colour"));
+    quickColour->setIcon(paletteIcon());
+    quickColour->setAutoRaise(true);
+    quickColour->setEnabled(Forms::hasFactory(QStringLiteral("ColorQuick")));
+    Picture[2]->addWidget(quickColour);
+    connect(quickColour, &QToolButton::clicked, this, Event([this] {
+        QWidget* palette = Forms::get(QStringLiteral("ColorQuick"));
+        palette->adjustSize();
+        QPoint at = quickColour->mapToGlobal(QPoint(0, quickColour->height()));
+        // Whole on the screen: near its right edge the palette moves left.
+        if (const QScreen* s = quickColour->screen()) {
+            const QRect room = s->availableGeometry();
+            at.setX(qMax(room.left(), qMin(at.x(), room.right() + 1 - palette->width())));
+        }
+        palette->move(at);
+        showForm(QStringLiteral("ColorQuick"));
+    }));
     connect(Combo1, &QComboBox::textActivated, this, Event([](const QString& t) { OnErrorExit([&] { applyFontSize(t); }); }));
     connect(Combo2, &QComboBox::textActivated, this, Event([](const QString& t) { OnErrorExit([&] { applyFontFace(t); }); }));
     connect(Combo4, &QComboBox::activated, this, Event([](int index) { OnErrorExit([&] { insertHeading(index + 1); }); }));

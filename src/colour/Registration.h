@@ -1,0 +1,4 @@
+#pragma once
+
+// The colour tools' windows.
+void registerColourTools();
