@@ -2,6 +2,7 @@
 
 #include "documents/OpenSave.h"
 #include "documents/Openform.h"
+#include "documents/PProperties.h"
 #include "documents/Saveas.h"
 #include "documents/Templates.h"
 #include "documents/findform.h"
@@ -13,6 +14,7 @@
 void registerDocuments()
 {
     registerForm<Openform>();
+    registerForm<PProperties>();
     registerForm<Saveas>();
     registerForm<tmplsave>();
     registerForm<findform>();

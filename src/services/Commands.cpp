@@ -94,7 +94,6 @@ constexpr const char* notYetBuilt[] = {
     "SiteManagment",
     "frmCSSCreate",
     "sourcepage",
-    "PProperties",
     "sidebar",
     "CSSform",
     "CSSCREATE",

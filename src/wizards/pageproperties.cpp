@@ -2,6 +2,7 @@
 
 #include "colour/ColourSwatch.h"
 #include "documents/DocumentWindow.h"
+#include "documents/FileFacts.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
@@ -117,8 +118,6 @@ void rewrite(CodeMax* editor, const QString& text)
     editor->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, static_cast<unsigned long>(middle.size()), middle.constData());
     editor->SendScintilla(QsciScintillaBase::SCI_ENDUNDOACTION);
 }
-
-QString yesNo(bool on) { return on ? QStringLiteral("True") : QStringLiteral("False"); }
 }
 
 pageproperties::pageproperties(QWidget* parent) : QDialog(parent)
@@ -306,24 +305,16 @@ QWidget* pageproperties::linksTab()
 
 QWidget* pageproperties::detailsTab()
 {
-    auto* page = new QWidget;
-    auto* form = new QFormLayout(page);
-    auto detail = [&](const QString& name, const QString& label) {
-        auto* l = Look::named(new QLabel(page), name);
-        l->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        form->addRow(label, l);
-        return l;
-    };
-    Filenae = detail(QStringLiteral("Filenae"), QStringLiteral("File Name :"));
-    Location = detail(QStringLiteral("Location"), QStringLiteral("Location :"));
-    Extension = detail(QStringLiteral("Extension"), QStringLiteral("Extension :"));
-    Filesize = detail(QStringLiteral("Filesize"), QStringLiteral("Size :"));
-    Modified = detail(QStringLiteral("Modified"), QStringLiteral("Modified :"));
-    datecreated = detail(QStringLiteral("datecreated"), QStringLiteral("Created :"));
-    Readonly = detail(QStringLiteral("Readonly"), QStringLiteral("Read Only :"));
-    Filehidden = detail(QStringLiteral("Filehidden"), QStringLiteral("Hidden :"));
-    Location->setWordWrap(true);
-    return page;
+    facts = new FileFacts;
+    Filenae = facts->Filenae;
+    Location = facts->Location;
+    Extension = facts->Extension;
+    Filesize = facts->Filesize;
+    Modified = facts->Modified;
+    datecreated = facts->datecreated;
+    Readonly = facts->Readonly;
+    Filehidden = facts->Filehidden;
+    return facts;
 }
 
 QWidget* pageproperties::notepadTab()
@@ -555,25 +546,7 @@ PageProperties::LinkStyles pageproperties::linkStyles() const
             Text9->text(),  Combo9->currentText(), Text10->text(), Combo10->currentText()};
 }
 
-void pageproperties::fillFileDetails(DocumentWindow* doc)
-{
-    const QString path = doc->tempaddress()->text();
-    if (path.isEmpty())
-        return;
-    const QFileInfo info(path);
-    if (!info.exists())
-        return;
-    Filenae->setText(doc->Caption());
-    Location->setText(path);
-    Extension->setText(info.suffix().toUpper());
-    Filesize->setText(QString::number(info.size()) + QStringLiteral(" Bytes"));
-    const QLocale locale;
-    Modified->setText(locale.toString(info.lastModified(), QLocale::ShortFormat));
-    const QDateTime born = info.birthTime().isValid() ? info.birthTime() : info.metadataChangeTime();
-    datecreated->setText(locale.toString(born, QLocale::ShortFormat));
-    Readonly->setText(yesNo(!info.isWritable()));
-    Filehidden->setText(yesNo(info.isHidden()));
-}
+void pageproperties::fillFileDetails(DocumentWindow* doc) { facts->fill(doc); }
 
 void pageproperties::fillNotepadValues(DocumentWindow* doc)
 {

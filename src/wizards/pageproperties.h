@@ -7,6 +7,7 @@
 
 class ColourSwatch;
 class DocumentWindow;
+class FileFacts;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -90,6 +91,7 @@ private:
     void fillFileDetails(DocumentWindow* doc);
     void fillNotepadValues(DocumentWindow* doc);
 
+    FileFacts* facts = nullptr;
     bool activating = false;
     // The page's text with its own line ends, while the box still holds that text.
     QPointer<RichTextBox> exactBox;

@@ -3,10 +3,13 @@
 #include "common/TestSupport.h"
 
 #include "documents/frmDocument.h"
+#include "documents/FileFacts.h"
+#include "documents/PProperties.h"
 #include "documents/frmsplit.h"
 #include "documents/notepad.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
+#include "platform/Forms.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
 #include "platform/WebBrowser.h"
@@ -18,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTextEdit>
@@ -354,4 +358,42 @@ TEST_F(WindowsTest, PreviewsShowThePageOnBothTabsAndInTheSplitWindow)
     pad->setWindowState(2);
     pad->RichTextBox1()->setText(QStringLiteral("Shopping list\r\nbread and butter\r\ncoffee"));
     saveShot(frmMain::instance(), QStringLiteral("notepad"));
+}
+
+// "Page Properties": the facts of the active document's file, read anew at each showing.
+TEST_F(WindowsTest, PagePropertiesShowTheActiveFilesFacts)
+{
+    frmMain* main = frmMain::instance();
+    main->MenuClick(QStringLiteral("Page Properties"));
+    auto* w = loadedForm<PProperties>();
+    ASSERT_NE(w, nullptr);
+    EXPECT_TRUE(w->isVisible());
+    EXPECT_EQ(w->windowTitle(), QStringLiteral("Page Properties"));
+    EXPECT_EQ(w->facts->Filenae->text(), QString()) << "no document";
+    w->hide();
+
+    folder.write(QStringLiteral("site/about.htm"), QByteArray(1234, 'x'));
+    frmDocument* page = newPage(QStringLiteral("x"));
+    page->tempaddress()->setText(folder.file(QStringLiteral("site/about.htm")));
+    page->setCaption(QStringLiteral("about.htm"));
+    main->MenuClick(QStringLiteral("Properties"));
+    EXPECT_EQ(w->facts->Filenae->text(), QStringLiteral("about.htm"));
+    EXPECT_EQ(w->facts->Location->text(), folder.file(QStringLiteral("site/about.htm")));
+    EXPECT_EQ(w->facts->Extension->text(), QStringLiteral("HTM"));
+    EXPECT_EQ(w->facts->Filesize->text(), QStringLiteral("1234 Bytes"));
+    EXPECT_EQ(w->facts->Readonly->text(), QStringLiteral("False"));
+    EXPECT_EQ(w->facts->Filehidden->text(), QStringLiteral("False"));
+    EXPECT_FALSE(w->facts->Modified->text().isEmpty());
+    saveShot(w, QStringLiteral("PProperties"));
+
+    // A page never saved: its caption, nothing else.
+    w->hide();
+    frmDocument* fresh = newPage(QStringLiteral("y"));
+    fresh->setCaption(QStringLiteral("Document 9"));
+    main->MenuClick(QStringLiteral("Page Properties"));
+    EXPECT_EQ(w->facts->Filenae->text(), QStringLiteral("Document 9"));
+    EXPECT_EQ(w->facts->Location->text(), QString());
+    w->Command1->click();
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_TRUE(prompts.prompts().isEmpty());
 }
