@@ -49,19 +49,25 @@ QByteArray charsetOf(const QByteArray& contentType, const QByteArray& body)
     return {};
 }
 
-QString decodePage(const QByteArray& body, const QByteArray& contentType)
+QByteArray editorBytes(const QByteArray& body, const QByteArray& contentType)
 {
+    // UTF-8 (declared or not) stays as it came: the editor reads it so, a stray byte included,
+    // and a large page is not held twice.
     const QByteArray charset = charsetOf(contentType, body);
-    // UTF-8 (declared or not) goes the editor's way, so that a stray byte still shows.
     if (!charset.isEmpty() && charset != "utf-8" && charset != "utf8") {
         QStringDecoder decoder(charset.constData());
         if (decoder.isValid()) {
-            QString text = decoder.decode(body);
+            const QString text = decoder.decode(body);
             if (!decoder.hasError())
-                return text;
+                return text.toUtf8();
         }
     }
-    return TextFiles::decode(body);
+    return body;
+}
+
+QString decodePage(const QByteArray& body, const QByteArray& contentType)
+{
+    return TextFiles::decode(editorBytes(body, contentType));
 }
 
 QString failureReason(QNetworkReply::NetworkError error, int httpStatus, const QString& httpPhrase)

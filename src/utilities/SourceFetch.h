@@ -28,6 +28,9 @@ QByteArray charsetOf(const QByteArray& contentType, const QByteArray& body);
 // The page's text: decoded by its character set; without one (or one this system cannot
 // decode), as the editor reads files: UTF-8, any other byte as Windows-1252.
 QString decodePage(const QByteArray& body, const QByteArray& contentType);
+// The bytes the editor reads as decodePage's text: a page in another character set turned into
+// UTF-8, any other page as it came.
+QByteArray editorBytes(const QByteArray& body, const QByteArray& contentType);
 // Why a fetch failed, for the status line. httpStatus is 0 when no answer came.
 QString failureReason(QNetworkReply::NetworkError error, int httpStatus, const QString& httpPhrase = {});
 // The status line's text for a failure.

@@ -85,7 +85,7 @@ void sourcepage::fetched(const QByteArray& body, const QByteArray& contentType)
     Command1->setEnabled(true);
     // The scratch file is private to this user and goes when this step ends.
     QTemporaryFile scratch(QDir::tempPath() + QStringLiteral("/velloro-source-XXXXXX.html"));
-    if (!scratch.open() || scratch.write(SourceFetch::decodePage(body, contentType).toUtf8()) < 0 || !scratch.flush()) {
+    if (!scratch.open() || scratch.write(SourceFetch::editorBytes(body, contentType)) < 0 || !scratch.flush()) {
         fetchFailed(QStringLiteral("the scratch file could not be written"));
         return;
     }

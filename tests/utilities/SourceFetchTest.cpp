@@ -351,6 +351,13 @@ TEST_F(SourcePageTest, FetchedPagesBecomeNewUnsavedWindows)
     grab(w, server.url("/utf8"));
     ASSERT_EQ(pages().size(), 3);
     EXPECT_EQ(pages().at(2)->CodeMax1()->text(), QStringLiteral("<p>na\u00efve \u20ac</p>"));
+    // Bytes that are no text at all still arrive, each invalid byte as Windows-1252.
+    grab(w, server.url("/binary"));
+    ASSERT_EQ(pages().size(), 4);
+    const QString binary = pages().at(3)->CodeMax1()->text();
+    EXPECT_EQ(binary.size(), 255);
+    EXPECT_EQ(binary.right(2), QStringLiteral("\u00fe\u00ff"));
+    EXPECT_EQ(binary.at(0x80 - 1), QChar(0x20ac));
     EXPECT_TRUE(scratchFiles().isEmpty());
 }
 
@@ -424,12 +431,13 @@ TEST_F(SourcePageTest, FullScreenPreviewOfAPage)
     for (const auto& [text, shown] : statuses) {
         Q_EMIT full->WebBrowser1->StatusTextChange(text);
         EXPECT_EQ(full->linkpreview->text(), shown) << text.toStdString();
+        if (text == QLatin1String("Done"))
+            saveShot(full, QStringLiteral("FullPreview"));
     }
     // The page window's own preview label says the same.
     Q_EMIT doc->WebBrowser1()->StatusTextChange(QStringLiteral("Done"));
     EXPECT_EQ(doc->linkpreview()->text(), QStringLiteral("Smart Link Preview [Roll Over Links]"));
 
-    saveShot(full, QStringLiteral("FullPreview"));
     full->SmartNetButton1->click();
     EXPECT_FALSE(full->isVisible());
     full->show();
