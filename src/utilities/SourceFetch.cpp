@@ -135,7 +135,13 @@ void PageFetch::cancel()
 
 void PageFetch::readMore()
 {
-    // The reply's own buffer is emptied as it fills, so the page is held once.
+    // The reply's own buffer is emptied as it fills, so the page is held once; a stated length
+    // is room made at once rather than by doubling.
+    if (body.isEmpty()) {
+        const qint64 stated = reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
+        if (stated > 0 && stated <= maxBytes)
+            body.reserve(stated);
+    }
     body += reply->readAll();
     if (body.size() > maxBytes) {
         refusal = QStringLiteral("the page is larger than %1 MB").arg(maxBytes / (1024 * 1024));
