@@ -438,6 +438,22 @@ TEST_F(SourcePageTest, FullScreenPreviewOfAPage)
     Q_EMIT doc->WebBrowser1()->StatusTextChange(QStringLiteral("Done"));
     EXPECT_EQ(doc->linkpreview()->text(), QStringLiteral("Smart Link Preview [Roll Over Links]"));
 
+    // Back and Forward walk the browser's history.
+    folder.write(QStringLiteral("a.htm"), "<p>a</p>");
+    folder.write(QStringLiteral("b.htm"), "<p>b</p>");
+    const QUrl a = QUrl::fromLocalFile(folder.file(QStringLiteral("a.htm")));
+    const QUrl b = QUrl::fromLocalFile(folder.file(QStringLiteral("b.htm")));
+    QList<QUrl> loads;
+    QObject::connect(full->WebBrowser1, &WebBrowser::NavigateComplete, full, [&](const QUrl& u) { loads.append(u); });
+    full->WebBrowser1->Navigate(a.toLocalFile());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loads.contains(a); }, 30000));
+    full->WebBrowser1->Navigate(b.toLocalFile());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loads.contains(b); }, 30000));
+    full->SmartNetButton5->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return full->WebBrowser1->LocationURL() == a; }, 30000));
+    full->SmartNetButton4->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return full->WebBrowser1->LocationURL() == b; }, 30000));
+
     full->SmartNetButton1->click();
     EXPECT_FALSE(full->isVisible());
     full->show();
