@@ -39,6 +39,7 @@ bench: build
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing
 	bench/startup.sh $(BUILD)/velloro
 	bench/ftp.sh $(BUILD)/bench/bench_ftp_upload
+	bench/source.sh $(BUILD)/bench/bench_source_fetch
 
 fuzz: deps
 	CC=clang CXX=clang++ cmake -S . -B build-fuzz -G $(GENERATOR) -DVELLORO_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo

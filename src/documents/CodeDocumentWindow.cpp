@@ -112,7 +112,7 @@ CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
     editor->viewport()->installEventFilter(this);
 
     connect(browser, &WebBrowser::StatusTextChange, this, [this](const QString& text) {
-        linkLabel->setText(text == QLatin1String("Done") ? QStringLiteral("Smart Link Preview [Roll Over Links]") : text);
+        linkLabel->setText(linkPreviewText(text));
     });
     buildContextMenu();
 }
@@ -276,6 +276,11 @@ void CodeDocumentWindow::launchPage()
 
 void CodeDocumentWindow::fullScreen()
 {
-    writeAndShowPreview(previewPath());
+    // The full-screen window is reached by its name: it lives in a library above this one.
+    const QString path = previewPath();
+    if (!TextFiles::writeScratch(path, editor->utf8Text()))
+        return;
+    if (auto* full = Forms::get(QStringLiteral("FullPreview"))->findChild<WebBrowser*>(QStringLiteral("WebBrowser1")))
+        full->Navigate(path);
     showForm(QStringLiteral("FullPreview"));
 }

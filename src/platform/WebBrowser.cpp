@@ -152,3 +152,8 @@ void WebBrowser::PrintPreview()
     connect(&preview, &QPrintPreviewDialog::paintRequested, this, [v](QPrinter* p) { v->print(p); });
     preview.exec();
 }
+
+QString linkPreviewText(const QString& statusText)
+{
+    return statusText == QLatin1String("Done") ? QStringLiteral("Smart Link Preview [Roll Over Links]") : statusText;
+}

@@ -43,3 +43,7 @@ private:
     QUrl location;
     double zoomFactor = 1.0;
 };
+
+// What a link preview label shows for the browser's status text: after a load, the hint to roll
+// over links; otherwise the text itself (the hovered link's address).
+QString linkPreviewText(const QString& statusText);

@@ -2,10 +2,14 @@
 
 #include "platform/Forms.h"
 #include "utilities/Folders.h"
+#include "utilities/FullPreview.h"
+#include "utilities/sourcepage.h"
 
 void registerUtilities()
 {
     registerForm<Folders>();
     registerForm<frmFolder>();
     registerForm<Execute>();
+    registerForm<sourcepage>();
+    registerForm<FullPreview>();
 }

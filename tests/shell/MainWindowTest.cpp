@@ -156,7 +156,8 @@ TEST_F(StartScreenTest, TasksOfWindowsThisBuildLacksAreGreyAndTheHeadingsStand)
 {
     Startup* s = form<Startup>();
     EXPECT_TRUE(s->findChild<QLabel*>(QStringLiteral("Label29"))->isEnabled());  // Openform exists
-    EXPECT_FALSE(s->findChild<QLabel*>(QStringLiteral("Label26"))->isEnabled()); // no page source window yet
+    EXPECT_TRUE(s->findChild<QLabel*>(QStringLiteral("Label26"))->isEnabled());  // the page source window exists
+    EXPECT_FALSE(s->findChild<QLabel*>(QStringLiteral("Label31"))->isEnabled()); // no site manager yet
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label32"))->text(), QStringLiteral("Open A Pre-set:"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label33"))->text(), QStringLiteral("Web Options:"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label35"))->text(), QStringLiteral("Help :"));
