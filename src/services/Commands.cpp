@@ -96,10 +96,6 @@ constexpr const char* notYetBuilt[] = {
     "sourcepage",
     "PProperties",
     "sidebar",
-    "CSSform",
-    "CSSCREATE",
-    "frmscrollbar",
-    "StyleLink",
     "FeedBack",
     "frmUpdate",
 };
