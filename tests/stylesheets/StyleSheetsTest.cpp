@@ -322,3 +322,22 @@ TEST_F(StyleSheetsTest, LinkOneSheetGoesInAtTheEditorAndEmptiesItsFields)
     EXPECT_EQ(w->Location->text(), QStringLiteral("kept.css"));
     EXPECT_EQ(prompts.prompts().size(), 2);
 }
+
+TEST_F(StyleSheetsTest, StyleLinkStopsAtAFileItCannotRead)
+{
+    auto* w = open<StyleLink>(QStringLiteral("Style Link Wizard"));
+    ASSERT_NE(w, nullptr);
+    folder.write(QStringLiteral("a.htm"), "<head></head>");
+    folder.write(QStringLiteral("c.htm"), "<head></head>");
+    w->lifiles->addItems({folder.file(QStringLiteral("a.htm")), folder.file(QStringLiteral("gone.htm")),
+                          folder.file(QStringLiteral("c.htm"))});
+    prompts.answerMsgBox(1);
+    w->cmdProcess->click();
+    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_TRUE(prompts.last().text.contains(QStringLiteral("53"))) << visible(prompts.last().text);
+    EXPECT_EQ(folder.read(QStringLiteral("a.htm")), QByteArray("<head></head>\r\n<link rel=stylesheet type=text/css href=...>"));
+    EXPECT_EQ(folder.read(QStringLiteral("c.htm")), QByteArray("<head></head>")) << "the run stopped before it";
+    EXPECT_EQ(w->lifiles->count(), 2);
+    EXPECT_EQ(w->Bar->value(), 1);
+    EXPECT_EQ(w->lblAction->text(), QStringLiteral("Started .."));
+}
