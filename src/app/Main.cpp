@@ -14,6 +14,7 @@
 #include "shell/frmSplash.h"
 #include "shell/modMain.h"
 #include "spelling/Registration.h"
+#include "stylesheets/Registration.h"
 #include "utilities/Registration.h"
 #include "wizards/Registration.h"
 
@@ -35,6 +36,7 @@ void registerEverything()
     registerPagetools();
     registerUtilities();
     registerColourTools();
+    registerStylesheets();
     // Last: the menu's own branches fill in what the features have not claimed.
     registerShell();
 }

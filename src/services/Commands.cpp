@@ -94,10 +94,6 @@ constexpr const char* notYetBuilt[] = {
     "SiteManagment",
     "frmCSSCreate",
     "sidebar",
-    "CSSform",
-    "CSSCREATE",
-    "frmscrollbar",
-    "StyleLink",
     "FeedBack",
     "frmUpdate",
 };

@@ -17,6 +17,7 @@
 #include "wizards/dropmenu2.h"
 #include "wizards/emailform.h"
 #include "wizards/externalwindow.h"
+#include "wizards/CSSform.h"
 #include "wizards/imageform.h"
 #include "wizards/lineform.h"
 #include "wizards/marqueeform.h"
@@ -37,6 +38,7 @@ void registerWizards()
     registerForm<dropmenu2>();
     registerForm<scriptform>();
     registerForm<externalwindow>();
+    registerForm<CSSform>();
     registerForm<Tableform>();
     registerForm<TableWizard>();
     registerForm<CSVWizard>();

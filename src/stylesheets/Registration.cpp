@@ -1,0 +1,12 @@
+#include "stylesheets/Registration.h"
+
+#include "platform/Forms.h"
+#include "stylesheets/StyleSheets.h"
+
+void registerStylesheets()
+{
+    registerForm<CSSCentral>();
+    registerForm<CSSCREATE>();
+    registerForm<frmscrollbar>();
+    registerForm<StyleLink>();
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+// Registers the style sheet windows by their names.
+void registerStylesheets();
