@@ -1,8 +1,10 @@
 #include "utilities/Registration.h"
 
 #include "platform/Forms.h"
+#include "services/Commands.h"
 #include "utilities/Folders.h"
 #include "utilities/FullPreview.h"
+#include "utilities/MailPage.h"
 #include "utilities/sourcepage.h"
 
 void registerUtilities()
@@ -12,4 +14,5 @@ void registerUtilities()
     registerForm<Execute>();
     registerForm<sourcepage>();
     registerForm<FullPreview>();
+    Commands::add(QStringLiteral("Email File"), [] { MailPage::EmailActivePage(); });
 }

@@ -2,6 +2,8 @@
 // messages; the folder browser's two roots; the folder dialog handing its path to a field.
 #include "common/TestSupport.h"
 
+#include "documents/frmDocument.h"
+#include "platform/Desktop.h"
 #include "platform/FileControls.h"
 #include "platform/Forms.h"
 #include "shell/frmMain.h"
@@ -152,4 +154,34 @@ TEST_F(FoldersTest, TheBrowserAndTheFolderDialog)
     dialog->Dir1->setPath(web("images"));
     dialog->SmartNetButton2->click();
     EXPECT_EQ(caller.text(), web("New_Folder1")) << "cancel hands nothing back";
+}
+
+// "Email File": the saved page goes to the desktop's mail program as an attachment; without a
+// document or a saved file, the reason instead.
+TEST_F(FoldersTest, TheSavedPageGoesToANewMail)
+{
+    QStringList started;
+    Desktop::setHandler({[](const QUrl&) { return false; },
+                         [&](const QString& program, const QStringList& arguments) {
+                             started << program << arguments;
+                             return true;
+                         }});
+    prompts.answerMsgBox(Answer::OK);
+    frmMain::instance()->MenuClick(QStringLiteral("Email File"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("No Active document open to email."), 16));
+
+    frmDocument* page = newPage(QStringLiteral("<p>"));
+    prompts.answerMsgBox(Answer::OK);
+    frmMain::instance()->MenuClick(QStringLiteral("Email File"));
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("The current open webpage hasnt been saved yet."), 16));
+    EXPECT_TRUE(started.isEmpty());
+
+    page->tempaddress()->setText(web("index.htm"));
+    frmMain::instance()->MenuClick(QStringLiteral("Email File"));
+    EXPECT_EQ(started, (QStringList{QStringLiteral("xdg-email"), QStringLiteral("--utf8"), QStringLiteral("--subject"),
+                                    QStringLiteral("File Attachment"), QStringLiteral("--body"),
+                                    QStringLiteral("Find my webpage attached ..."), QStringLiteral("--attach"), web("index.htm"),
+                                    QStringLiteral("someone@example.com")}));
+    EXPECT_EQ(prompts.prompts().size(), 2);
+    refuseDesktop();
 }
