@@ -5,6 +5,7 @@
 #include "pagetools/PictureShow.h"
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
+#include "platform/ListRows.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
@@ -24,14 +25,6 @@
 #include <QVBoxLayout>
 
 namespace {
-QStringList rowsOf(const QListWidget* list)
-{
-    QStringList rows;
-    rows.reserve(list->count());
-    for (int i = 0; i < list->count(); ++i)
-        rows << list->item(i)->text();
-    return rows;
-}
 
 // Where the search starts: the user's pictures, or home when there is no such folder.
 QString startFolder()

@@ -3,6 +3,7 @@
 #include "pagetools/QuickNotes.h"
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
+#include "platform/ListRows.h"
 #include "platform/Look.h"
 
 #include <QHBoxLayout>
@@ -12,16 +13,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-
-namespace {
-QStringList rowsOf(const QListWidget* list)
-{
-    QStringList rows;
-    for (int i = 0; i < list->count(); ++i)
-        rows << list->item(i)->text();
-    return rows;
-}
-}
 
 IndexPanel::IndexPanel(const QString& title, std::function<QString(const QString&)> row, QWidget* parent)
     : QGroupBox(title, parent), rowOf(std::move(row))

@@ -8,6 +8,7 @@
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
+#include "platform/ListRows.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
@@ -137,10 +138,7 @@ void Quick::SmartNetButton1_Click()
         throw RuntimeError::badFileName(QStringLiteral("Quick"));
     // The folder as it stands now, not as the list last saw it.
     index->File1->refresh();
-    QStringList files;
-    for (int i = 0; i < index->File1->count(); ++i)
-        files << index->File1->item(i)->text();
-    if (QuickNotes::isStored(files, name)) {
+    if (QuickNotes::isStored(rowsOf(index->File1), name)) {
         MsgBox(QStringLiteral("There is allready a note saved as that, change the name and try again."));
         return;
     }

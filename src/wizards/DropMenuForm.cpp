@@ -1,6 +1,7 @@
 #include "wizards/DropMenuForm.h"
 
 #include "platform/EventProcedure.h"
+#include "platform/ListRows.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "wizards/WizardRows.h"
@@ -14,13 +15,6 @@
 namespace {
 const QString linkStart = QStringLiteral("HTTP://");
 
-QStringList rowsOf(const QListWidget* list)
-{
-    QStringList rows;
-    for (int i = 0; i < list->count(); ++i)
-        rows << list->item(i)->text();
-    return rows;
-}
 }
 
 DropMenuForm::DropMenuForm(const QString& caption, const QString& exampleText, const QString& workingText, QWidget* parent)

@@ -1,6 +1,7 @@
 #include "wizards/ParameterWizard.h"
 
 #include "platform/EventProcedure.h"
+#include "platform/ListRows.h"
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 #include "wizards/WizardRows.h"
@@ -83,11 +84,7 @@ void ParameterWizard::fillCommon(ParameterText::Common& f) const
 
 QStringList ParameterWizard::parameterLines() const
 {
-    QStringList lines;
-    lines.reserve(List1->count());
-    for (int i = 0; i < List1->count(); ++i)
-        lines << List1->item(i)->text();
-    return lines;
+    return rowsOf(List1);
 }
 
 void ParameterWizard::chooseFile()
