@@ -41,4 +41,6 @@ QString versionNumber()
     return QStringLiteral("%1.%2.%3").arg(major()).arg(minor()).arg(revision());
 }
 
+QString versionLine() { return QStringLiteral("Velloro 2002 : Version ") + versionNumber(); }
+
 } // namespace App

@@ -10,4 +10,6 @@ int major();
 int minor();
 int revision();
 QString versionNumber();                        // "Major.Minor.Revision"
+// The about box's version label, also the head of the main window's caption.
+QString versionLine();
 }

@@ -94,8 +94,6 @@ constexpr const char* notYetBuilt[] = {
     "SiteManagment",
     "frmCSSCreate",
     "sidebar",
-    "FeedBack",
-    "frmUpdate",
 };
 }
 

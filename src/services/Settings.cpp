@@ -1,6 +1,9 @@
 #include "services/Settings.h"
 
+#include "platform/App.h"
+
 #include <QDir>
+#include <QSettings>
 
 namespace {
 DetailsRecord& detailsValue()
@@ -27,4 +30,20 @@ PropertiesRecord& folders()
     static PropertiesRecord r = makeFolders();
     return r;
 }
+
+QString online(const QString& key, const QString& fallback)
+{
+    const QSettings config(App::path() + QStringLiteral("/Options/Online.ini"), QSettings::IniFormat);
+    return config.value(QStringLiteral("Online/") + key, fallback).toString();
+}
+
+QString updateServer()
+{
+    QString server = online(QStringLiteral("UpdateServer"), QStringLiteral("https://velloro.example"));
+    while (server.endsWith(QLatin1Char('/')))
+        server.chop(1);
+    return server;
+}
+
+QString feedbackAddress() { return online(QStringLiteral("FeedbackAddress"), QStringLiteral("feedback@velloro.example")); }
 }

@@ -23,7 +23,7 @@ AboutFORM::AboutFORM(QWidget* parent) : QDialog(parent)
     f.setBold(true);
     product->setFont(f);
     product->setStyleSheet(QStringLiteral("color: %1;").arg(Look::heading.name()));
-    versionname = new QLabel(QStringLiteral("Velloro 2002 : Version ") + App::versionNumber(), this);
+    versionname = new QLabel(App::versionLine(), this);
     versionname->setObjectName(QStringLiteral("versionname"));
     auto* blurb = new QLabel(QStringLiteral("A desktop authoring tool for web pages."), this);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);

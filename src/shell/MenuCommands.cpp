@@ -25,7 +25,6 @@
 #include <QLocale>
 #include <QMdiArea>
 #include <QProcess>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTime>
 #include <QUrl>
@@ -330,8 +329,7 @@ QString onlineAddress(const QString& key)
         {QStringLiteral("MSDN"), QStringLiteral("https://learn.microsoft.com/")},
         {QStringLiteral("Velloro Online"), QStringLiteral("https://velloro.example/")},
     };
-    const QSettings config(App::path() + QStringLiteral("/Options/Online.ini"), QSettings::IniFormat);
-    return config.value(QStringLiteral("Online/") + QString(key).remove(QLatin1Char(' ')), builtIn.value(key)).toString();
+    return Settings::online(QString(key).remove(QLatin1Char(' ')), builtIn.value(key));
 }
 
 void applyFontSize(const QString& chosen)

@@ -2,9 +2,11 @@
 
 #include "platform/Forms.h"
 #include "services/Commands.h"
+#include "utilities/FeedBack.h"
 #include "utilities/Folders.h"
 #include "utilities/FullPreview.h"
 #include "utilities/MailPage.h"
+#include "utilities/frmUpdate.h"
 #include "utilities/sourcepage.h"
 
 void registerUtilities()
@@ -14,5 +16,7 @@ void registerUtilities()
     registerForm<Execute>();
     registerForm<sourcepage>();
     registerForm<FullPreview>();
+    registerForm<frmUpdate>();
+    registerForm<FeedBack>();
     Commands::add(QStringLiteral("Email File"), [] { MailPage::EmailActivePage(); });
 }

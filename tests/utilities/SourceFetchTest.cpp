@@ -2,6 +2,7 @@
 // against a server of the test's own on 127.0.0.1 (redirects, 404, silence, a page that never
 // ends, TLS spoken to a plain server), and the grabber and full-screen preview windows.
 #include "common/TestSupport.h"
+#include "CannedServer.h"
 
 #include "documents/frmDocument.h"
 #include "platform/CodeMax.h"
@@ -31,73 +32,18 @@ const QByteArray metaPage = "<html><head><META http-equiv=\"Content-Type\" conte
                             "</head><body>\x93quoted\x94</body></html>";
 const QByteArray utf8Page = "<p>na\xc3\xafve \xe2\x82\xac</p>";
 
-// A web server of canned answers on a free port of 127.0.0.1, living as long as the test.
-class CannedServer : public QObject {
-public:
-    CannedServer()
+// The canned server with the pages of these tests.
+struct PageServer : CannedServer {
+    PageServer()
     {
-        server.listen(QHostAddress::LocalHost, 0);
-        QObject::connect(&server, &QTcpServer::newConnection, this, [this] {
-            while (QTcpSocket* s = server.nextPendingConnection())
-                QObject::connect(s, &QTcpSocket::readyRead, s, [this, s] { answer(s); });
-        });
+        pages["/latin"] = {"Content-Type: text/html; charset=\"ISO-8859-1\"\r\n", latinPage};
+        pages["/meta"] = {"Content-Type: text/html\r\n", metaPage};
+        pages["/utf8"] = {"Content-Type: text/html; charset=utf-8\r\n", utf8Page};
+        QByteArray bytes;
+        for (int i = 1; i < 256; ++i)
+            bytes += char(i);
+        pages["/binary"] = {"Content-Type: application/octet-stream\r\n", bytes};
     }
-    QString url(const char* path) const
-    {
-        return QStringLiteral("http://127.0.0.1:%1%2").arg(server.serverPort()).arg(QString::fromLatin1(path));
-    }
-    quint16 port() const { return server.serverPort(); }
-    int requests = 0;
-
-private:
-    static void reply(QTcpSocket* s, const QByteArray& status, const QByteArray& headers, const QByteArray& body)
-    {
-        s->write("HTTP/1.1 " + status + "\r\n" + headers + "Content-Length: " + QByteArray::number(body.size()) +
-                 "\r\nConnection: close\r\n\r\n" + body);
-        s->disconnectFromHost();
-    }
-    void answer(QTcpSocket* s)
-    {
-        QByteArray& in = pending[s];
-        in += s->readAll();
-        if (!in.startsWith("GET ")) {  // not HTTP at all: a TLS hello
-            s->write("this is no TLS server\r\n");
-            s->disconnectFromHost();
-            return;
-        }
-        if (!in.contains("\r\n\r\n"))
-            return;
-        ++requests;
-        const QByteArray path = in.split(' ').value(1);
-        if (path == "/latin")
-            reply(s, "200 OK", "Content-Type: text/html; charset=\"ISO-8859-1\"\r\n", latinPage);
-        else if (path == "/meta")
-            reply(s, "200 OK", "Content-Type: text/html\r\n", metaPage);
-        else if (path == "/utf8")
-            reply(s, "200 OK", "Content-Type: text/html; charset=utf-8\r\n", utf8Page);
-        else if (path == "/moved")
-            reply(s, "301 Moved Permanently", "Location: /hop\r\n", {});
-        else if (path == "/hop")
-            reply(s, "302 Found", "Location: " + url("/latin").toLatin1() + "\r\n", {});
-        else if (path == "/loop")
-            reply(s, "302 Found", "Location: /loop\r\n", {});
-        else if (path == "/binary") {
-            QByteArray bytes;
-            for (int i = 1; i < 256; ++i)
-                bytes += char(i);
-            reply(s, "200 OK", "Content-Type: application/octet-stream\r\n", bytes);
-        } else if (path == "/silent") {
-            // Accepts and never answers.
-        } else if (path == "/endless") {
-            s->write("HTTP/1.1 200 OK\r\nContent-Type: text/html\r\n\r\n");
-            auto* t = new QTimer(s);
-            QObject::connect(t, &QTimer::timeout, s, [s] { s->write(QByteArray(64 * 1024, 'x')); });
-            t->start(5);
-        } else
-            reply(s, "404 Not Found", "Content-Type: text/html\r\n", "<h1>Not Found</h1>");
-    }
-    QTcpServer server;
-    QHash<QTcpSocket*, QByteArray> pending;
 };
 
 struct Outcome {
@@ -198,7 +144,7 @@ TEST(SourceFetchLogic, FailureReasons)
 
 TEST(PageFetchTest, AgainstALocalServer)
 {
-    CannedServer server;
+    PageServer server;
     PageFetch fetch;
     fetch.idleTimeout = 1500;
 
@@ -250,7 +196,7 @@ TEST(PageFetchTest, AgainstALocalServer)
 
 TEST(PageFetchTest, CancelEndsAFetchAtOnce)
 {
-    CannedServer server;
+    PageServer server;
     PageFetch fetch;
     QSignalSpy done(&fetch, &PageFetch::done), failed(&fetch, &PageFetch::failed);
     fetch.start(QUrl(server.url("/endless")));
@@ -311,7 +257,7 @@ protected:
     QStringList scratchFiles() const { return QDir(folder.file(QStringLiteral("tmp"))).entryList(QDir::Files); }
 
     QByteArray oldTemp;
-    CannedServer server;
+    PageServer server;
 };
 }
 
