@@ -25,6 +25,8 @@ frmUpdate::frmUpdate(QWidget* parent) : QDialog(parent)
     auto label = [this](const char* name, const QString& text = {}) {
         auto* l = Look::named(new QLabel(text, this), QString::fromLatin1(name));
         l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        // A long field from the server must not stretch the window off the screen.
+        l->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         return l;
     };
     lblCversion = label("lblCversion", App::versionNumber());
@@ -41,6 +43,8 @@ frmUpdate::frmUpdate(QWidget* parent) : QDialog(parent)
     Command1->setDefault(true);
     Inet1 = new PageFetch(this);
     Inet1->setObjectName(QStringLiteral("Inet1"));
+    // Update.DAT is one short line; anything much larger is not it.
+    Inet1->maxBytes = 1024 * 1024;
 
     auto* mine = new QGroupBox(QStringLiteral("This copy"), this);
     auto* mineRows = new QFormLayout(mine);

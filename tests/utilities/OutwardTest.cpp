@@ -156,12 +156,32 @@ TEST_F(OutwardWindowTest, UpdateCheckComparesTheVersionAsText)
     w->Command2->click();
     EXPECT_EQ(desktop.opened, QStringList{server.url("/site/Velloro.zip")});
 
+    // Whatever else the server sends ends the same way, with the first field in the first label.
+    const std::pair<QByteArray, QString> others[] = {
+        {"", QString()},
+        {"<html>\r\n<head><title>502 Bad Gateway</title></head>\r\n<body>,,,,,</body></html>", QStringLiteral("<html>")},
+        {QByteArray(20000, 'v') + ",2", QString(20000, QLatin1Char('v'))},
+    };
+    const QSize size = w->size();
+    for (const auto& [body, first] : others) {
+        serve(body);
+        check(w);
+        EXPECT_EQ(w->lblUName->text(), first);
+        EXPECT_EQ(w->lblstatus->text(), QStringLiteral("Status :: A new version is available."));
+        EXPECT_EQ(prompts.prompts().size(), 1);
+    }
+    EXPECT_EQ(w->size(), size) << "a long field does not stretch the window";
+    serve(QByteArray(10 * 1024 * 1024, 'x'));
+    check(w);
+    EXPECT_EQ(status(), QStringLiteral("The page could not be fetched: the page is larger than 1 MB"));
+    EXPECT_EQ(w->lblUName->text(), QString(20000, QLatin1Char('v')));
+
     // A missing file: the trap takes it without a box; the status line says why.
     server.pages.remove("/site/Update.DAT");
     check(w);
     EXPECT_EQ(status(), QStringLiteral("The page could not be fetched: HTTP 404 Not Found"));
     EXPECT_EQ(prompts.prompts().size(), 1);
-    EXPECT_EQ(labels(w).at(1), QStringLiteral("0.0.1"));
+    EXPECT_EQ(labels(w).at(1), QStringLiteral("2"));
 }
 
 TEST_F(OutwardWindowTest, ClosingTheUpdateWindowCancelsTheCheck)
