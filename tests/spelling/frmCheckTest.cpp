@@ -489,12 +489,13 @@ TEST_F(SpellCheckTest, TheBuiltDictionaryChecksEnglish)
     QFile built(QStringLiteral(VELLORO_BUILT_DICTIONARY));
     ASSERT_TRUE(built.open(QIODevice::ReadOnly));
     const QByteArray bytes = built.readAll();
-    EXPECT_GT(bytes.count("\r\n"), 50000);
+    EXPECT_GT(bytes.count("\r\n"), 150000) << "the larger word list, with today's words";
     EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n")) << "every line ends with CR LF";
     dictionary(bytes);
 
     auto* pad = openPad(QStringLiteral("This is a simple sentense about Paris and the world's oceans, isn't it? "
-                                       "It was written in 2024 by Mr. Smith."));
+                                       "It was written in 2024 by Mr. Smith. Counterintuitive zookeepers keep "
+                                       "airbags by the airlock after the breakout."));
     pad->startspell();
     frmCheck* f = checkOf(pad);
     EXPECT_EQ(selected(pad), QStringLiteral("sentense"));
