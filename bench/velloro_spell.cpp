@@ -82,22 +82,12 @@ int main(int argc, char** argv)
 
     mark("read");
     std::string out;
-    WordWalker walker;
-    int start = 0, end = -1;
-    const int textLength = static_cast<int>(text.size());
-    for (;;) {
-        const Spelling::WordStop stop = Spelling::checkNextWord(
-            walker, text, start, end, [textLength](int at) { return std::clamp(at, 0, textLength); },
-            [&tree](QStringView w) { return Spelling::isCorrectWord(tree, w); });
-        if (stop.kind == Spelling::WordStop::None)
-            break;
-        if (stop.kind == Spelling::WordStop::Misspelt) {
-            out += stop.word.toStdString();
+    Spelling::forEachMisspelt(
+        text, [&tree](QStringView w) { return Spelling::isCorrectWord(tree, w); },
+        [&out](int, const QString& word) {
+            out += word.toStdString();
             out += '\n';
-        }
-        // On from the end of the word, as Ignore goes on.
-        start = stop.start + std::min(stop.length, textLength - stop.start);
-    }
+        });
     mark("checked");
     std::fwrite(out.data(), 1, out.size(), stdout);
     mark("written");

@@ -1,3 +1,4 @@
+#include "app/CommandLine.h"
 #include "app/Main.h"
 #include "documents/OpenSave.h"
 #include "platform/Application.h"
@@ -9,6 +10,9 @@
 
 int main(int argc, char** argv)
 {
+    // The command-line tools run without a window, and so without a display.
+    if (const std::optional<int> status = CommandLine::runFromMain(argc, argv))
+        return *status;
     VelloroApplication app(argc, argv);
     Main();
     frmMain* main = frmMain::loaded();

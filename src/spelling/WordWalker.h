@@ -75,4 +75,24 @@ WordStop checkNextWord(WordWalker& walker, QStringView text, int& start, int& en
     }
     return {};
 }
+
+// The whole walk without stopping, as a check that is never answered: every word that fails
+// the word test, in order, with its offset. Words lacking only their capital pass.
+template <class IsCorrect, class Found>
+void forEachMisspelt(QStringView text, IsCorrect&& isCorrect, Found&& found)
+{
+    WordWalker walker;
+    int start = 0, end = -1;
+    const int length = static_cast<int>(text.size());
+    for (;;) {
+        const WordStop stop =
+            checkNextWord(walker, text, start, end, [length](int at) { return std::clamp(at, 0, length); }, isCorrect);
+        if (stop.kind == WordStop::None)
+            return;
+        if (stop.kind == WordStop::Misspelt)
+            found(stop.start, stop.word);
+        // On from the end of the word, as Ignore goes on.
+        start = stop.start + std::min(stop.length, length - stop.start);
+    }
+}
 }
