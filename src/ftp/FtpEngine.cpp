@@ -164,7 +164,7 @@ void FtpEngine::closeData()
     upload.reset();
     uploadLeft = uploadUnsent = 0;
     download.reset();
-    listingHeld.clear();
+    listing.clear();
     closingData = true;
     data->abort();
     closingData = false;
@@ -272,7 +272,7 @@ void FtpEngine::dataReadyRead()
     const QByteArray bytes = data->readAll();
     if (tag2 == QLatin1String("LIST")) {
         // A character cut by the end of one arrival is finished by the next.
-        Q_EMIT listingData(QString::fromUtf8(TextFiles::toEditorText(listingHeld + bytes, &listingHeld)));
+        Q_EMIT listingData(listing.append(bytes));
     } else if (tag2 == QLatin1String("RETR")) {
         if (!download)
             dataConnected();
@@ -290,8 +290,9 @@ void FtpEngine::dataClosed()
     const bool wasRetrieve = tag2 == QLatin1String("RETR");
     if (wasRetrieve)
         download.reset();
-    if (tag2 == QLatin1String("LIST") && !listingHeld.isEmpty())
-        Q_EMIT listingData(QString::fromUtf8(TextFiles::toEditorText(listingHeld)));
+    if (tag2 == QLatin1String("LIST"))
+        if (const QString rest = listing.finish(); !rest.isEmpty())
+            Q_EMIT listingData(rest);
     tag2.clear();
     closeData();
     if (wasRetrieve)

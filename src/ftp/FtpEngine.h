@@ -129,7 +129,7 @@ private:
     bool isAwaited(int code) const;
     QString tag1;
     QString tag2;
-    QByteArray listingHeld;  // the start of a character the last listing arrival cut
+    FtpReply::Listing listing;
     // Rises on every disconnect: a wait that began in an older session is over.
     quint64 session = 0;
     int waits = 0;

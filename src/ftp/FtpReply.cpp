@@ -116,4 +116,16 @@ Passive parsePassive(const QString& line)
     p.port = static_cast<quint16>(port);
     return p;
 }
+
+QString Listing::append(const QByteArray& bytes)
+{
+    return QString::fromUtf8(TextFiles::toEditorText(held + bytes, &held));
+}
+
+QString Listing::finish()
+{
+    const QString rest = QString::fromUtf8(TextFiles::toEditorText(held));
+    held.clear();
+    return rest;
+}
 }

@@ -25,6 +25,20 @@ private:
     qsizetype scanned = 0;
 };
 
+// The text of a directory listing as its data channel delivers it: each arrival's text, read as
+// the editor reads files; a character cut by the end of one arrival is held for the next, so
+// the text is the same however the bytes were cut.
+class Listing {
+public:
+    QString append(const QByteArray& bytes);
+    // What is still held when the channel closes (the start of a character that never ended).
+    QString finish();
+    void clear() { held.clear(); }
+
+private:
+    QByteArray held;
+};
+
 // The code of a reply line: the numeric value of its first three characters, taking leading
 // digits (after blanks and a sign) and 0 where there are none. "230-" is 230, "OK" is 0, "5" is 5.
 qint16 replyCode(const QString& line);
