@@ -2,6 +2,7 @@
 
 #include "documents/ContextCommands.h"
 #include "documents/Insertion.h"
+#include "documents/SourcePlace.h"
 #include "platform/App.h"
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
@@ -114,7 +115,22 @@ CodeDocumentWindow::CodeDocumentWindow(QWidget* parent) : DocumentWindow(parent)
     connect(browser, &WebBrowser::StatusTextChange, this, [this](const QString& text) {
         linkLabel->setText(linkPreviewText(text));
     });
+    connect(browser, &WebBrowser::sourcePicked, this, &CodeDocumentWindow::showSourceOf);
     buildContextMenu();
+}
+
+void CodeDocumentWindow::showSourceOf(const QString& tag, int index, const QString& text, int offset)
+{
+    const QString source = editor->text();
+    const qsizetype at = SourcePlace::offsetOf(source, tag, index, text, offset);
+    if (at < 0)
+        return;
+    const qsizetype lineStart = source.lastIndexOf(QLatin1Char('\n'), at - 1) + 1;
+    const int line = int(QStringView(source).left(lineStart).count(QLatin1Char('\n')));
+    showSource();
+    editor->setCursorPosition(line, int(at - lineStart));
+    editor->ensureLineVisible(line);
+    editor->setFocus();
 }
 
 void CodeDocumentWindow::buildContextMenu()

@@ -36,6 +36,9 @@ public:
     // The preview bar's buttons by their names.
     QToolButton* previewButton(const QString& name) const;
 
+    // A Ctrl+click in the preview: the editor's caret to the source of the clicked place.
+    void showSourceOf(const QString& tag, int index, const QString& text, int offset);
+
 Q_SIGNALS:
     // The preview bar's upload button with a saved page: the upload window takes the path.
     void uploadRequested(const QString& path);
@@ -50,6 +53,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     // The window's own refresh (the first button).
     virtual void refreshPreview() = 0;
+    // Brings the editor into view where the preview hides it.
+    virtual void showSource() {}
 
 private:
     void buildContextMenu();

@@ -73,6 +73,8 @@ frmDocument::frmDocument(QWidget* parent) : CodeDocumentWindow(parent)
 
 void frmDocument::RefreshPreview() { writeAndShowPreview(previewPath()); }
 
+void frmDocument::showSource() { SSTab1->setCurrentIndex(0); }
+
 void frmDocument::editorChanged()
 {
     showTextStatus();

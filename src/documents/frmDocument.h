@@ -20,6 +20,7 @@ public:
 protected:
     QString previewSuffix() const override { return QStringLiteral("_TMP.htm"); }
     void refreshPreview() override { RefreshPreview(); }
+    void showSource() override;
 
 private:
     void editorChanged();

@@ -1,6 +1,7 @@
 #pragma once
 #include <QtPlugin>
 #include <QUrl>
+#include <QVariant>
 #include <functional>
 
 class QPrinter;
@@ -19,9 +20,15 @@ public:
     virtual void setZoomFactor(double factor) = 0;
     // Prints the page; returns when the printer has it.
     virtual void print(QPrinter* printer) = 0;
+    // Runs a script in the page; done, if given, receives its result.
+    virtual void runScript(const QString& script, std::function<void(const QVariant&)> done = {}) = 0;
 
     std::function<void(const QString&)> onLinkHovered;
     std::function<void(const QUrl&)> onLoadFinished;
+    // A click with Ctrl held in the page: the element's tag in small letters, its place among
+    // the page's elements of that tag (from 0), the text of the text node clicked (empty when
+    // the click was not on text) and where in that text the click fell.
+    std::function<void(const QString& tag, int index, const QString& text, int offset)> onSourcePick;
 };
 
 class BrowserEngine {

@@ -85,6 +85,9 @@ BrowserView* WebBrowser::pageView()
     layout->addWidget(view->widget());
     view->setZoomFactor(zoomFactor);
     view->onLinkHovered = [this](const QString& url) { Q_EMIT StatusTextChange(url); };
+    view->onSourcePick = [this](const QString& tag, int index, const QString& text, int offset) {
+        Q_EMIT sourcePicked(tag, index, text, offset);
+    };
     view->onLoadFinished = [this](const QUrl& url) {
         // Back and forward move the location too.
         location = url;

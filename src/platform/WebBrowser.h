@@ -32,6 +32,8 @@ Q_SIGNALS:
     // The hovered link's address, "" when the pointer leaves it, and "Done" after each load.
     void StatusTextChange(const QString& text);
     void NavigateComplete(const QUrl& url);
+    // A click with Ctrl held in the page (see BrowserView::onSourcePick).
+    void sourcePicked(const QString& tag, int index, const QString& text, int offset);
 
 protected:
     void showEvent(QShowEvent* e) override;

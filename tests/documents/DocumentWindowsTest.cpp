@@ -12,6 +12,7 @@
 #include "platform/Forms.h"
 #include "platform/RichTextBox.h"
 #include "platform/RuntimeError.h"
+#include "platform/BrowserEngine.h"
 #include "platform/WebBrowser.h"
 #include "shell/frmMain.h"
 
@@ -396,4 +397,115 @@ TEST_F(WindowsTest, PagePropertiesShowTheActiveFilesFacts)
     w->Command1->click();
     EXPECT_FALSE(w->isVisible());
     EXPECT_TRUE(prompts.prompts().isEmpty());
+}
+
+namespace {
+// A script's result in the page, waited for.
+QVariant inPage(WebBrowser* browser, const QString& script)
+{
+    QVariant result;
+    bool done = false;
+    browser->pageView()->runScript(script, [&](const QVariant& v) {
+        result = v;
+        done = true;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 20000)) << script.toStdString();
+    return result;
+}
+int scrolled(WebBrowser* browser) { return inPage(browser, QStringLiteral("window.scrollY")).toInt(); }
+
+QString longPage()
+{
+    QString page = QStringLiteral("<html>\r\n<body>\r\n");
+    for (int i = 0; i < 400; ++i)
+        page += QStringLiteral("<p>Paragraph number %1 of the long page.</p>\r\n").arg(i);
+    return page + QStringLiteral("</body>\r\n</html>\r\n");
+}
+
+// A click with Ctrl held on the text of the index-th paragraph, as the mouse gives it.
+void ctrlClickParagraph(WebBrowser* browser, int index)
+{
+    const QVariantList at =
+        inPage(browser, QStringLiteral("(function(){var p=document.getElementsByTagName('p')[%1];"
+                                       "p.scrollIntoView({block:'center'});var r=p.getBoundingClientRect();"
+                                       "return [r.left + 60, r.top + r.height / 2];})()")
+                            .arg(index))
+            .toList();
+    ASSERT_EQ(at.size(), 2);
+    QWidget* view = browser->pageView()->widget();
+    QWidget* target = view->focusProxy() ? view->focusProxy() : view;
+    const QPoint point(int(at[0].toDouble() * browser->zoom()), int(at[1].toDouble() * browser->zoom()));
+    QTest::mouseClick(target, Qt::LeftButton, Qt::ControlModifier, point);
+}
+}
+
+TEST_F(WindowsTest, PreviewsKeepTheirPlaceAndCtrlClickFindsTheSource)
+{
+    frmMain::instance()->resize(1000, 700);
+    const QString page = longPage();
+    const int lineOf200 = 2 + 200;  // two lines before the first paragraph
+
+    auto* doc = open<frmDocument>();
+    doc->setWindowState(2);
+    doc->CodeMax1()->setText(page);
+    doc->SSTab1->setCurrentIndex(1);
+    ASSERT_TRUE(waitForDone(doc->WebBrowser1()));
+    inPage(doc->WebBrowser1(), QStringLiteral("window.scrollTo(0, 3000)"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return scrolled(doc->WebBrowser1()) == 3000; }, 10000));
+    // The refresh button writes and loads the preview again: the reader stays where he was.
+    QSignalSpy loaded(doc->WebBrowser1(), &WebBrowser::NavigateComplete);
+    doc->previewButton(QStringLiteral("SmartNetButton1"))->click();
+    ASSERT_TRUE(loaded.wait(20000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scrolled(doc->WebBrowser1()) == 3000; }, 10000))
+        << "scrolled to " << scrolled(doc->WebBrowser1());
+
+    // Ctrl+click on a paragraph's text: the source tab, the caret on that paragraph's line.
+    ctrlClickParagraph(doc->WebBrowser1(), 200);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return doc->SSTab1->currentIndex() == 0; }, 10000));
+    int line = -1, index = -1;
+    doc->CodeMax1()->getCursorPosition(&line, &index);
+    EXPECT_EQ(line, lineOf200);
+    EXPECT_GT(index, 3) << "on the text, not the tag";
+    EXPECT_EQ(doc->CodeMax1()->text(), page) << "the source is not touched";
+
+    // The split window: typing updates the preview, which stays where it was scrolled to.
+    auto* split = open<frmsplit>(QStringLiteral("HTML Split [ 1 ]"));
+    split->setWindowState(2);
+    split->CodeMax1()->setText(page);
+    split->flushPreview();
+    ASSERT_TRUE(waitForDone(split->WebBrowser1()));
+    inPage(split->WebBrowser1(), QStringLiteral("window.scrollTo(0, 2500)"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return scrolled(split->WebBrowser1()) == 2500; }, 10000));
+    split->CodeMax1()->setCursorPosition(2, 0);
+    split->CodeMax1()->setSelText(QStringLiteral("<p>Typed at the top.</p>\r\n"));
+    QSignalSpy splitLoaded(split->WebBrowser1(), &WebBrowser::NavigateComplete);
+    split->flushPreview();
+    ASSERT_TRUE(splitLoaded.wait(20000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scrolled(split->WebBrowser1()) == 2500; }, 10000))
+        << "scrolled to " << scrolled(split->WebBrowser1());
+    saveShot(frmMain::instance(), QStringLiteral("split-kept-place"));
+
+    // A Ctrl+click in the split window's preview moves the caret beside it: the typed
+    // paragraph is the first now, so the 151st is paragraph 150, on line 3 + 150.
+    ctrlClickParagraph(split->WebBrowser1(), 151);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            split->CodeMax1()->getCursorPosition(&line, &index);
+            return line == 3 + 150;
+        },
+        10000))
+        << "caret on line " << line;
+    // A plain click is the page's own.
+    split->CodeMax1()->setCursorPosition(0, 0);
+    const QVariantList at =
+        inPage(split->WebBrowser1(), QStringLiteral("(function(){var p=document.getElementsByTagName('p')[160];"
+                                                    "p.scrollIntoView({block:'center'});var r=p.getBoundingClientRect();"
+                                                    "return [r.left + 60, r.top + 5];})()"))
+            .toList();
+    QWidget* view = split->WebBrowser1()->pageView()->widget();
+    QTest::mouseClick(view->focusProxy() ? view->focusProxy() : view, Qt::LeftButton, Qt::NoModifier,
+                      QPoint(at.value(0).toInt(), at.value(1).toInt()));
+    QTest::qWait(300);
+    split->CodeMax1()->getCursorPosition(&line, &index);
+    EXPECT_EQ(line, 0);
 }
