@@ -451,10 +451,12 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
     const QString site = folder.file(QStringLiteral("site"));
     folder.write(QStringLiteral("site/index.htm"), "<html>\r\n<body>Hello</body>\r\n</html>\r\n");
     folder.write(QStringLiteral("site/notes.txt"), "first line\r\nsecond line\r\n");
-    folder.write(QStringLiteral("site/gone.htm"), "soon deleted");
+    folder.write(QStringLiteral("site/contact.htm"), "soon deleted");
     sidebar* w = open();
     ASSERT_NE(w, nullptr);
     w->Dir1->setPath(site);
+    w->SSTab1->setCurrentIndex(2);
+    saveShot(w, QStringLiteral("sidebar-files-site"));
 
     // A web page window: the file's text, its path, its bare name, and the older main caption.
     click(w->File1, fileRow(w, QStringLiteral("index.htm")));
@@ -487,8 +489,8 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
 
     // A file listed but gone from the disk, either way: the message, and no document with its path.
     const QString error = QStringLiteral("An error has happened try clicking the file again, or restart");
-    click(w->File1, fileRow(w, QStringLiteral("gone.htm")));
-    ASSERT_TRUE(QFile::remove(site + QStringLiteral("/gone.htm")));
+    click(w->File1, fileRow(w, QStringLiteral("contact.htm")));
+    ASSERT_TRUE(QFile::remove(site + QStringLiteral("/contact.htm")));
     for (bool asNotepad : {true, false}) {
         w->Check1->setChecked(asNotepad);
         prompts.answerMsgBox(Answer::OK);
@@ -499,7 +501,7 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
     EXPECT_EQ(prompts.prompts().size(), 2);
     for (QWidget* f : Forms::loaded())
         if (auto* d = qobject_cast<DocumentWindow*>(f)) {
-            EXPECT_NE(d->tempaddress()->text(), site + QStringLiteral("/gone.htm"));
+            EXPECT_NE(d->tempaddress()->text(), site + QStringLiteral("/contact.htm"));
         }
 
     // Nothing chosen: the folder itself is no document.
