@@ -29,22 +29,6 @@ using Look::named;
 
 namespace {
 const QString pickHint = QStringLiteral("Double click to select an data string.");
-
-QLabel* hintLabel(const QString& name, QWidget* parent)
-{
-    auto* label = named(new QLabel(pickHint, parent), name);
-    label->setWordWrap(true);
-    return label;
-}
-
-// The chosen code and its Insert button, under a list.
-QHBoxLayout* insertRow(QLineEdit* text, QPushButton* insert)
-{
-    auto* row = new QHBoxLayout;
-    row->addWidget(text, 1);
-    row->addWidget(insert);
-    return row;
-}
 }
 
 sidebar::sidebar(QWidget* parent) : QWidget(parent, Qt::Tool)
@@ -54,8 +38,12 @@ sidebar::sidebar(QWidget* parent) : QWidget(parent, Qt::Tool)
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(4, 4, 4, 4);
     SSTab1 = named(new QTabWidget(this), QStringLiteral("SSTab1"));
-    SSTab1->addTab(codePage(), QStringLiteral("Code"));
-    SSTab1->addTab(characterPage(), QStringLiteral("Characters"));
+    TreeView1 = newReferenceTree(QStringLiteral("TreeView1"), this);
+    SSTab1->addTab(listPage(Label3, QStringLiteral("Label3"), TreeView1, Text1, QStringLiteral("Text1"), Command1, QStringLiteral("Command1")),
+                   QStringLiteral("Code"));
+    Flex = newCharacterGrid(this);
+    SSTab1->addTab(listPage(Label2, QStringLiteral("Label2"), Flex, Text2, QStringLiteral("Text2"), Command4, QStringLiteral("Command4")),
+                   QStringLiteral("Characters"));
     SSTab1->addTab(filePage(), QStringLiteral("Files"));
     SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; }").arg(Look::tabFace.name()));
     outer->addWidget(SSTab1, 1);
@@ -77,31 +65,21 @@ sidebar::sidebar(QWidget* parent) : QWidget(parent, Qt::Tool)
     resize(300, 560);
 }
 
-QWidget* sidebar::codePage()
+QWidget* sidebar::listPage(QLabel*& hint, const QString& hintName, QWidget* list, QLineEdit*& text, const QString& textName,
+                           QPushButton*& insert, const QString& insertName)
 {
     auto* page = new QWidget(this);
     auto* v = new QVBoxLayout(page);
-    Label3 = hintLabel(QStringLiteral("Label3"), page);
-    TreeView1 = newReferenceTree(QStringLiteral("TreeView1"), page);
-    Text1 = named(new QLineEdit(page), QStringLiteral("Text1"));
-    Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Insert"), page);
-    v->addWidget(Label3);
-    v->addWidget(TreeView1, 1);
-    v->addLayout(insertRow(Text1, Command1));
-    return page;
-}
-
-QWidget* sidebar::characterPage()
-{
-    auto* page = new QWidget(this);
-    auto* v = new QVBoxLayout(page);
-    Label2 = hintLabel(QStringLiteral("Label2"), page);
-    Flex = newCharacterGrid(page);
-    Text2 = named(new QLineEdit(page), QStringLiteral("Text2"));
-    Command4 = Look::faceButton(QStringLiteral("Command4"), QStringLiteral("Insert"), page);
-    v->addWidget(Label2);
-    v->addWidget(Flex, 1);
-    v->addLayout(insertRow(Text2, Command4));
+    hint = named(new QLabel(pickHint, page), hintName);
+    hint->setWordWrap(true);
+    v->addWidget(hint);
+    v->addWidget(list, 1);
+    text = named(new QLineEdit(page), textName);
+    insert = Look::faceButton(insertName, QStringLiteral("Insert"), page);
+    auto* row = new QHBoxLayout;
+    row->addWidget(text, 1);
+    row->addWidget(insert);
+    v->addLayout(row);
     return page;
 }
 

@@ -63,8 +63,9 @@ public:
     QPushButton* Command2 = nullptr;
 
 private:
-    QWidget* codePage();
-    QWidget* characterPage();
+    // A page of a list: the hint above it, the chosen code and its Insert button below.
+    QWidget* listPage(QLabel*& hint, const QString& hintName, QWidget* list, QLineEdit*& text, const QString& textName,
+                      QPushButton*& insert, const QString& insertName);
     QWidget* filePage();
     void addOnTopStrip(QVBoxLayout* outer);
     void setTopmost(bool on);

@@ -131,6 +131,22 @@ protected:
         editor->getCursorPosition(&line, &index);
         return {line, index};
     }
+    // Whether Tab walks the widgets in this order, in one round from the first (others may come
+    // between them).
+    static bool tabsThrough(const QList<QWidget*>& order)
+    {
+        QList<QWidget*> round{order.first()};
+        for (QWidget* w = order.first()->nextInFocusChain(); w != order.first(); w = w->nextInFocusChain())
+            round.append(w);
+        qsizetype last = -1;
+        for (QWidget* w : order) {
+            const qsizetype at = round.indexOf(w);
+            if (at <= last)
+                return false;
+            last = at;
+        }
+        return true;
+    }
     static QString mainCaption() { return frmMain::instance()->windowTitle(); }
 };
 
@@ -200,6 +216,11 @@ TEST_F(SidebarTest, OpensFromItsThreeKeysAsOneFloatingWindowOnTop)
 
     EXPECT_EQ(w->Label1->text(), QStringLiteral("You can disable the always on top feature of the menu bar by clicking below."));
     EXPECT_EQ(w->Command3->text(), QStringLiteral("Disable"));
+
+    // Tab walks each page from top to bottom, then the on-top button.
+    EXPECT_TRUE(tabsThrough({w->TreeView1, w->Text1, w->Command1, w->Flex, w->Text2, w->Command4, w->Drive1, w->Dir1, w->File1,
+                             w->Combo1, w->Check1, w->Command2, w->Command3}));
+    EXPECT_FALSE(tabsThrough({w->Command1, w->Text1, w->TreeView1, w->Command3}));
 
     // Every control answers to its name.
     for (const char* name : {"SSTab1", "TreeView1", "Text1", "Command1", "Flex", "Label2", "Label3", "Text2", "Command4",
