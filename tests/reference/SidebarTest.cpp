@@ -5,6 +5,7 @@
 
 #include "documents/DocumentWindow.h"
 #include "documents/frmDocument.h"
+#include "documents/OpenSave.h"
 #include "documents/frmsplit.h"
 #include "documents/notepad.h"
 #include "platform/CodeMax.h"
@@ -494,7 +495,10 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
     EXPECT_EQ(mainCaption(), QStringLiteral("Velloro 1 :: [ ") + indexPath + QStringLiteral(" ]"));
     EXPECT_TRUE(w->isVisible());
 
-    // Ticked: a notepad, by a double click in the list.
+    // Ticked: a notepad, by a double click in the list. The main window's file panel has made a
+    // notepad before; the sidebar counts its own, so this one is its first: the main caption,
+    // written as the window comes up, shows that count before the file's name replaces it.
+    OpenAsNotepad(site + QStringLiteral("/notes.txt"));
     w->Check1->setChecked(true);
     doubleClick(w->File1, fileRow(w, QStringLiteral("notes.txt")));
     processEvents();
@@ -505,6 +509,13 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
     EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("first line\r\nsecond line\r\n"));
     EXPECT_EQ(pad->tempaddress()->text(), site + QStringLiteral("/notes.txt"));
     EXPECT_EQ(pad->Caption(), QStringLiteral("notes.txt"));
+    EXPECT_TRUE(mainCaption().startsWith(QStringLiteral("Velloro 2002 : Version ")) &&
+                mainCaption().endsWith(QStringLiteral(" [ Notepad [ 1 ] ]"))) << mainCaption().toStdString();
+    doubleClick(w->File1, fileRow(w, QStringLiteral("notes.txt")));
+    processEvents();
+    EXPECT_TRUE(mainCaption().startsWith(QStringLiteral("Velloro 2002 : Version ")) &&
+                mainCaption().endsWith(QStringLiteral(" [ Notepad [ 2 ] ]"))) << mainCaption().toStdString();
+    EXPECT_EQ(frmMain::instance()->ActiveForm()->Caption(), QStringLiteral("notes.txt"));
     EXPECT_TRUE(w->isVisible());
     EXPECT_TRUE(prompts.prompts().isEmpty());
 
