@@ -137,7 +137,7 @@ void sidebar::Form_Load()
     // The one root opens, so that its two parts show.
     if (QTreeWidgetItem* root = TreeView1->topLevelItem(0))
         root->setExpanded(true);
-    fillCharacterGrid(Flex);
+    // The character grid came filled with the window.
 }
 
 void sidebar::TreeView1_NodeClick(QTreeWidgetItem* node) { Text1->setText(node->text(0)); }
