@@ -6,6 +6,7 @@
 #include "pagetools/Registration.h"
 #include "platform/Forms.h"
 #include "platform/RuntimeError.h"
+#include "reference/Registration.h"
 #include "report/Registration.h"
 #include "services/Workspace.h"
 #include "shell/Options.h"
@@ -31,6 +32,7 @@ void registerEverything()
     registerDocuments();
     registerSpelling();
     registerReport();
+    registerReference();
     registerFtp();
     registerWizards();
     registerPagetools();

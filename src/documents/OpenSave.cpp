@@ -40,16 +40,6 @@ void loadInto(DocumentWindow* doc, const QString& path)
         doc->CodeMax1()->OpenFile(path);
 }
 
-DocumentWindow* openWith(const QString& path, LoadAs how, const QString& caption)
-{
-    DocumentWindow* doc = makeWindow(how);
-    doc->setCaption(caption);
-    workspace().addDocument(doc);
-    loadInto(doc, path);
-    doc->tempaddress()->setText(path);
-    return doc;
-}
-
 // Writes the active document to its own file; false (with the message said) when it cannot.
 bool saveActiveToItsFile(DocumentWindow* doc, const QString& path)
 {
@@ -86,12 +76,22 @@ void save(int noDocumentStyle, bool clearChange)
 }
 }
 
+DocumentWindow* OpenInNewWindow(const QString& path, LoadAs how, const QString& caption)
+{
+    DocumentWindow* doc = makeWindow(how);
+    doc->setCaption(caption);
+    workspace().addDocument(doc);
+    loadInto(doc, path);
+    doc->tempaddress()->setText(path);
+    return doc;
+}
+
 DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState)
 {
     const int n = form<Openform>()->nextWindowNumber();
     const QString caption = how == LoadAs::Notepad ? QStringLiteral("Notepad [ %1 ]").arg(n)
                                                    : QStringLiteral("Document [ %1 ]").arg(n);
-    DocumentWindow* doc = openWith(path, how, caption);
+    DocumentWindow* doc = OpenInNewWindow(path, how, caption);
     if (how != LoadAs::Notepad)
         doc->setCaption(QFileInfo(path).fileName());
     workspace().setDocumentCaption(path);
@@ -100,29 +100,33 @@ DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState)
     return doc;
 }
 
-void OpenAsPage(const QString& path)
+QString olderOpenCaption(const QString& path) { return QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"); }
+
+void OpenAsPage(const QString& path, WindowCounter& counter)
 {
-    DocumentWindow* doc = openWith(path, LoadAs::Page, QStringLiteral("Document %1").arg(panelPages.next()));
+    DocumentWindow* doc = OpenInNewWindow(path, LoadAs::Page, QStringLiteral("Document %1").arg(counter.next()));
     doc->setCaption(QFileInfo(path).fileName());
-    workspace().setCaption(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+    workspace().setCaption(olderOpenCaption(path));
 }
+
+void OpenAsPage(const QString& path) { OpenAsPage(path, panelPages); }
 
 void OpenAsNotepad(const QString& path)
 {
-    openWith(path, LoadAs::Notepad, QStringLiteral("Notepad [ %1 ]").arg(panelNotepads.next()));
-    workspace().setCaption(QStringLiteral("Velloro 1 :: [ ") + path + QStringLiteral(" ]"));
+    OpenInNewWindow(path, LoadAs::Notepad, QStringLiteral("Notepad [ %1 ]").arg(panelNotepads.next()));
+    workspace().setCaption(olderOpenCaption(path));
 }
 
 void OpenAsSplit(const QString& path)
 {
-    auto* doc = static_cast<frmsplit*>(openWith(path, LoadAs::Split, QStringLiteral("HTML Split [ %1 ]").arg(panelSplits.next())));
+    auto* doc = static_cast<frmsplit*>(OpenInNewWindow(path, LoadAs::Split, QStringLiteral("HTML Split [ %1 ]").arg(panelSplits.next())));
     workspace().setCaption(QStringLiteral("Velloro :: [ ") + path + QStringLiteral(" ]"));
     doc->SplitRefresh();
 }
 
 DocumentWindow* OpenOwnTemplate(const QString& path)
 {
-    return openWith(path, LoadAs::Page, QStringLiteral("Document %1").arg(ownTemplates.next()));
+    return OpenInNewWindow(path, LoadAs::Page, QStringLiteral("Document %1").arg(ownTemplates.next()));
 }
 
 DocumentWindow* NewNotepad()

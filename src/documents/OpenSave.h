@@ -2,6 +2,7 @@
 #include <QString>
 
 class DocumentWindow;
+class WindowCounter;
 
 // How a file becomes a window, and how a window's text goes back to its file.
 
@@ -12,10 +13,20 @@ enum class LoadAs { Page, Split, Notepad };
 // document's. Errors of the file (missing, unreadable) are run-time errors.
 DocumentWindow* OpenDocument(const QString& path, LoadAs how, int windowState);
 
+// A new window of that kind with the file: captioned, made the active child, then loaded, and
+// the file's path made the document's. A file that cannot be read is a run-time error, after
+// which the window stays, empty.
+DocumentWindow* OpenInNewWindow(const QString& path, LoadAs how, const QString& caption);
+
 // The file panel's three routines, which skip the open window (with their own captions).
 void OpenAsPage(const QString& path);
 void OpenAsNotepad(const QString& path);
 void OpenAsSplit(const QString& path);
+// The page routine for another creator of windows, which counts its windows itself (the
+// sidebar's file page).
+void OpenAsPage(const QString& path, WindowCounter& counter);
+// The main caption those older routines write: "Velloro 1 :: [ " path " ]".
+QString olderOpenCaption(const QString& path);
 
 // "Load Own Templates": a new web page window with the chosen template file.
 DocumentWindow* OpenOwnTemplate(const QString& path);

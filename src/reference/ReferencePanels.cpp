@@ -143,7 +143,14 @@ private:
     QString text;
 };
 
-QTreeWidget* newTree(const QString& name, QWidget* parent)
+}  // namespace
+
+void insertSilently(const QString& text)
+{
+    OnErrorExit([&] { InsertAtCaret(text); });
+}
+
+QTreeWidget* newReferenceTree(const QString& name, QWidget* parent)
 {
     auto* tree = named(new QTreeWidget(parent), name);
     tree->setHeaderHidden(true);
@@ -157,14 +164,31 @@ QTreeWidget* newTree(const QString& name, QWidget* parent)
     return tree;
 }
 
-// The text at the caret, under the trap that makes a failure silent: a notepad, which has no
-// code editor, or no document at all.
-void insertSilently(const QString& text)
+QTableWidget* newCharacterGrid(QWidget* parent)
 {
-    OnErrorExit([&] { InsertAtCaret(text); });
+    auto* grid = named(new QTableWidget(parent), QStringLiteral("Flex"));
+    grid->setColumnCount(3);
+    grid->horizontalHeader()->hide();
+    grid->verticalHeader()->hide();
+    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    // The first column is narrower than the style's smallest section.
+    grid->horizontalHeader()->setMinimumSectionSize(1);
+    for (int c = 0; c < 2; ++c)
+        grid->setColumnWidth(c, twipsToPixels(characterColumnTwips[c]));
+    grid->horizontalHeader()->setStretchLastSection(true);
+    // Rows as tall as the text needs, so that more of the table shows at once.
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 8);
+    fillCharacterGrid(grid);
+    return grid;
 }
 
-}  // namespace
+QString characterCode(const QTableWidget* grid, int row)
+{
+    const QTableWidgetItem* cell = grid->item(row, characterCodeColumn);
+    return cell ? cell->text() : QString();
+}
 
 void fillTree(QTreeWidget* tree, const QList<Node>& nodes)
 {
@@ -205,7 +229,7 @@ QFrame* createLibraryPanel(QWidget* parent)
 {
     QFrame* frame = Look::headedFrame(QStringLiteral("frlibrary"), QStringLiteral("Reference Library ::"), parent);
     auto* layout = static_cast<QVBoxLayout*>(frame->layout());
-    QTreeWidget* tree = newTree(QStringLiteral("TreeView1"), frame);
+    QTreeWidget* tree = newReferenceTree(QStringLiteral("TreeView1"), frame);
     auto* text = named(new QLineEdit(frame), QStringLiteral("Text1"));
     QPushButton* insert = Look::faceButton(QStringLiteral("Command3"), QStringLiteral("Insert"), frame);
     layout->addWidget(tree, 1);
@@ -239,7 +263,7 @@ QFrame* createScriptPanel(QWidget* parent)
 {
     QFrame* frame = Look::headedFrame(QStringLiteral("frjavascript"), QStringLiteral("Javascript Examples ::"), parent);
     auto* layout = static_cast<QVBoxLayout*>(frame->layout());
-    QTreeWidget* tree = newTree(QStringLiteral("JavaList"), frame);
+    QTreeWidget* tree = newReferenceTree(QStringLiteral("JavaList"), frame);
     auto* javatext = named(new QLineEdit(frame), QStringLiteral("javatext"));
     javatext->setVisible(false);
     // Opens the script chosen by the last click; there is nothing to open until then.
@@ -275,18 +299,7 @@ QFrame* createCharacterPanel(QWidget* parent)
 {
     QFrame* frame = Look::headedFrame(QStringLiteral("frchr"), QStringLiteral("Special Chr ::"), parent);
     auto* layout = static_cast<QVBoxLayout*>(frame->layout());
-    auto* grid = named(new QTableWidget(frame), QStringLiteral("Flex"));
-    grid->setColumnCount(3);
-    grid->horizontalHeader()->hide();
-    grid->verticalHeader()->hide();
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-    grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    // The first column is narrower than the style's smallest section.
-    grid->horizontalHeader()->setMinimumSectionSize(1);
-    for (int c = 0; c < 2; ++c)
-        grid->setColumnWidth(c, twipsToPixels(characterColumnTwips[c]));
-    grid->horizontalHeader()->setStretchLastSection(true);
+    QTableWidget* grid = newCharacterGrid(frame);
     auto* text = named(new QLineEdit(frame), QStringLiteral("Text2"));
     QPushButton* insert = Look::faceButton(QStringLiteral("Command4"), QStringLiteral("Insert"), frame);
     layout->addWidget(grid, 1);
@@ -297,10 +310,7 @@ QFrame* createCharacterPanel(QWidget* parent)
     new TooltipLine(grid, QStringLiteral("Select a Special Character to insert."));
 
     // The code column is what goes in, as it stands: no line ending.
-    auto codeOf = [grid](int r) {
-        QTableWidgetItem* cell = grid->item(r, characterCodeColumn);
-        return cell ? cell->text() : QString();
-    };
+    auto codeOf = [grid](int r) { return characterCode(grid, r); };
     QObject::connect(grid, &QTableWidget::cellClicked, frame, Event([text, codeOf](int r, int) { text->setText(codeOf(r)); }));
     auto insertCurrent = [grid, codeOf] {
         if (grid->currentRow() >= 0)
@@ -308,7 +318,5 @@ QFrame* createCharacterPanel(QWidget* parent)
     };
     QObject::connect(grid, &QTableWidget::cellDoubleClicked, frame, Event([insertCurrent](int, int) { insertCurrent(); }));
     QObject::connect(insert, &QPushButton::clicked, frame, Event([insertCurrent] { insertCurrent(); }));
-
-    fillCharacterGrid(grid);
     return frame;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include "reference/ReferenceData.h"
 
+#include <QString>
 #include <Qt>
 
 class QFrame;
@@ -22,6 +23,17 @@ QFrame* createCharacterPanel(QWidget* parent);
 // Where a tree item keeps its node's key and image number.
 inline constexpr int NodeKeyRole = Qt::UserRole;
 inline constexpr int NodeImageRole = Qt::UserRole + 1;
+
+// The pieces the panels share with the sidebar, which shows the same kinds of lists.
+// A code tree as the panels show it: no header, one column, scrolling sideways.
+QTreeWidget* newReferenceTree(const QString& name, QWidget* parent);
+// The character grid `Flex`, filled: three columns, whole rows chosen, nothing editable.
+QTableWidget* newCharacterGrid(QWidget* parent);
+// The code column of a grid row: what the grid inserts.
+QString characterCode(const QTableWidget* grid, int row);
+// The text at the caret, under the trap that makes a failure silent: a notepad, which has no
+// code editor, or no document at all.
+void insertSilently(const QString& text);
 
 // Clears a tree and fills it with the nodes in their order, opening the branches marked so.
 // The sidebar fills its own tree with this too.

@@ -93,7 +93,6 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
 constexpr const char* notYetBuilt[] = {
     "SiteManagment",
     "frmCSSCreate",
-    "sidebar",
 };
 }
 

@@ -1,0 +1,4 @@
+#pragma once
+
+// The reference library's windows.
+void registerReference();
