@@ -3,10 +3,11 @@ BUILD      ?= build
 GENERATOR  ?= Ninja
 JOBS       ?= 2
 CMAKE_ARGS ?=
+PREFIX     ?= /usr/local
 
 TEST_ENV = QT_QPA_PLATFORM=offscreen QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" QTWEBENGINE_DISABLE_SANDBOX=1
 
-.PHONY: all deps configure build run test bench fuzz check-asan clean icons sitepictures
+.PHONY: all deps configure build run test bench fuzz check-asan clean icons sitepictures appicon install
 
 all: build
 
@@ -70,6 +71,15 @@ icons: configure
 sitepictures: configure
 	cmake --build $(BUILD) -j$(JOBS) --target sitepictures
 	$(BUILD)/tools/sitepictures/sitepictures data/Templates/Advanced/Sites/Personal
+
+# Installs the program under PREFIX (bin/velloro, lib/velloro, the desktop entry, icons, AppStream).
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+# Redraws the program icon (packaging/icons) in every size the desktop asks for.
+appicon: configure
+	cmake --build $(BUILD) -j$(JOBS) --target appicon
+	QT_QPA_PLATFORM=offscreen $(BUILD)/tools/appicon/appicon packaging/icons
 
 clean:
 	rm -rf $(BUILD) build-asan build-fuzz

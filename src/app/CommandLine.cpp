@@ -125,7 +125,7 @@ std::optional<int> run(const QStringList& arguments, QTextStream& out, QTextStre
             return !failed;
         });
     if (option == QLatin1String("--spell")) {
-        const QString dictionary = App::path() + QStringLiteral("/dictionary.txt");
+        const QString dictionary = App::userFile(QStringLiteral("dictionary.txt"));
         try {
             modMain::LoadWordList(dictionary);
         } catch (const RuntimeError& e) {

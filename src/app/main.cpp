@@ -6,7 +6,9 @@
 #include "platform/RuntimeError.h"
 #include "shell/frmMain.h"
 
+#include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 int main(int argc, char** argv)
 {
@@ -14,6 +16,9 @@ int main(int argc, char** argv)
     if (const std::optional<int> status = CommandLine::runFromMain(argc, argv))
         return *status;
     VelloroApplication app(argc, argv);
+    // The desktop entry and the icon an installation puts in place.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.velloro.Velloro"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("velloro")));
     Main();
     frmMain* main = frmMain::loaded();
     if (!main)

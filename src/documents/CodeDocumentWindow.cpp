@@ -252,7 +252,7 @@ QToolButton* CodeDocumentWindow::previewButton(const QString& name) const { retu
 QString CodeDocumentWindow::previewPath() const
 {
     if (tempaddress()->text().isEmpty())
-        return App::path() + QStringLiteral("/temp.html");
+        return App::userPath() + QStringLiteral("/temp.html");
     return tempaddress()->text() + previewSuffix();
 }
 

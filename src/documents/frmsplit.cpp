@@ -64,7 +64,7 @@ void frmsplit::writeLivePreview()
 {
     QElapsedTimer took;
     took.start();
-    writeAndShowPreview(App::path() + QStringLiteral("/temp.html"));
+    writeAndShowPreview(App::userPath() + QStringLiteral("/temp.html"));
     // A long text takes long to write and show: the next write waits a few times as long,
     // so that the keys always come first.
     previewTimer->setInterval(qMax<qint64>(previewDelayMs, 4 * took.elapsed()));

@@ -59,7 +59,7 @@ tmplsave::tmplsave(QWidget* parent) : QDialog(parent)
 void tmplsave::Command1_Click()
 {
     OnErrorExit([this] {
-        const QString folder = App::path() + QStringLiteral("/Templates/");
+        const QString folder = App::userFile(QStringLiteral("Templates")) + QLatin1Char('/');
         DocumentWindow* doc = ActiveForm();
         if (!doc)
             throw RuntimeError::objectRequired(QStringLiteral("tmplsave"));

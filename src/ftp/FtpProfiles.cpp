@@ -33,7 +33,7 @@ QStringList splitLines(const QString& text)
 }
 }
 
-QString folder() { return App::path() + QStringLiteral("/Options/FTP"); }
+QString folder() { return App::userFile(QStringLiteral("Options/FTP")); }
 QString indexPath() { return folder() + QStringLiteral("/Main.DAT"); }
 QString profilePath(const QString& name) { return folder() + QLatin1Char('/') + name + QStringLiteral(".DAT"); }
 

@@ -113,7 +113,7 @@ Quick::Quick(QWidget* parent) : QDialog(parent)
 
 void Quick::Form_Load() { fillLists(); }
 
-QString Quick::folder() { return App::path() + QStringLiteral("/Notes"); }
+QString Quick::folder() { return App::userFile(QStringLiteral("Notes")); }
 
 void Quick::fillLists() { index->fill(folder()); }
 

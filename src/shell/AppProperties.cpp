@@ -11,7 +11,7 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
-QString propertiesPath() { return App::path() + QStringLiteral("/Options/Properties.dat"); }
+QString propertiesPath() { return App::userFile(QStringLiteral("Options/Properties.dat")); }
 
 AppProperties::AppProperties(QWidget* parent) : QDialog(parent)
 {

@@ -215,7 +215,7 @@ void toggleView(bool (CodeMax::*get)() const, void (CodeMax::*set)(bool))
     (editor->*set)(!(editor->*get)());
 }
 
-QString previewFile() { return App::path() + QStringLiteral("/temp.html"); }
+QString previewFile() { return App::userPath() + QStringLiteral("/temp.html"); }
 
 void registerView()
 {

@@ -40,7 +40,7 @@ QLabel* wrapped(const QString& text, QWidget* parent)
 
 }
 
-QString detailsPath() { return App::path() + QStringLiteral("/Options/Details.dat"); }
+QString detailsPath() { return App::userFile(QStringLiteral("Options/Details.dat")); }
 
 Options::Options(QWidget* parent) : QDialog(parent)
 {

@@ -28,7 +28,7 @@ clsSpell::clsSpell(QObject* parent) : QObject(parent)
 {
     setObjectName(QStringLiteral("spellchecker"));
     window();
-    setDictionary(App::path() + QStringLiteral("/dictionary.txt"));
+    setDictionary(App::userFile(QStringLiteral("dictionary.txt")));
     modMain::state().CustomWords = QStringList{QString()};
     modMain::state().SpellOnTop = true;
 }

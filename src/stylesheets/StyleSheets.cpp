@@ -295,7 +295,7 @@ void frmscrollbar::Command10_Click()
         colours[i] = Text[i]->text();
     const QString block = StyleSheetText::scrollbarBlock(colours);
     stylecode->setPlainText(block);
-    const QString page = StyleSheetText::scrollTestPath(App::path());
+    const QString page = StyleSheetText::scrollTestPath(App::userPath());
     QDir().mkpath(QFileInfo(page).absolutePath());
     writeOrFail(page, StyleSheetText::scrollTestPage(block, withCrLf(temprest)));
     WebBrowser1->Navigate(page);

@@ -66,7 +66,7 @@ FeedBack::FeedBack(QWidget* parent) : QDialog(parent)
     connect(Command2, &QPushButton::clicked, this, &QDialog::hide);
 }
 
-QString FeedBack::feedbackFile() { return App::path() + QStringLiteral("/Options/FeedBack.dat"); }
+QString FeedBack::feedbackFile() { return App::userFile(QStringLiteral("Options/FeedBack.dat")); }
 
 void FeedBack::Command1_Click()
 {
