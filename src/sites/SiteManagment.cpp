@@ -114,28 +114,13 @@ SiteManagment::SiteManagment(QWidget* parent) : QDialog(parent)
     detailsNextButton = Look::faceButton(QStringLiteral("detailsNextButton"), QStringLiteral("Next >>"), frmstep1);
     stepRow(frmstep1, {detailsBack, detailsNextButton});
 
-    frmstep2B = wizardPage(QStringLiteral("frmstep2B"), QStringLiteral("Business Pages ::"),
-                           QStringLiteral("Tick the pages of the site. The menu links each ticked page."), steps);
-    const char* businessCaptions[] = {"Home Page (always made)", "Services", "Portfolio", "Price/Quote", "About Us", "Contact Us"};
-    for (int i = 0; i < 6; ++i) {
-        BCheck[i] = tick(QStringLiteral("BCheck%1").arg(i + 1), QString::fromLatin1(businessCaptions[i]), frmstep2B, i == 0);
-        frmstep2B->layout()->addWidget(BCheck[i]);
-    }
-    businessBack = Look::faceButton(QStringLiteral("businessBack"), QStringLiteral("<< Back"), frmstep2B);
-    businessNext = Look::faceButton(QStringLiteral("businessNext"), QStringLiteral("Create Site >>"), frmstep2B);
-    stepRow(frmstep2B, {businessBack, businessNext});
-
-    frmstep2p = wizardPage(QStringLiteral("frmstep2p"), QStringLiteral("Personal Pages ::"),
-                           QStringLiteral("Tick the pages of the site. The menu links each ticked page."), steps);
-    const char* personalCaptions[] = {"Home Page (always made)", "Pictures", "About", "Hobbies",
-                                      "Frame set Index.htm (always made)", "Links", "Contact Me"};
-    for (int i = 0; i < 7; ++i) {
-        PCheck[i] = tick(QStringLiteral("PCheck%1").arg(i + 1), QString::fromLatin1(personalCaptions[i]), frmstep2p, i == 0 || i == 4);
-        frmstep2p->layout()->addWidget(PCheck[i]);
-    }
-    personalBack = Look::faceButton(QStringLiteral("personalBack"), QStringLiteral("<< Back"), frmstep2p);
-    personalNext = Look::faceButton(QStringLiteral("personalNext"), QStringLiteral("Create Site >>"), frmstep2p);
-    stepRow(frmstep2p, {personalBack, personalNext});
+    frmstep2B = tickPage(QStringLiteral("frmstep2B"), QStringLiteral("Business Pages ::"), QStringLiteral("BCheck"),
+                         {"Home Page (always made)", "Services", "Portfolio", "Price/Quote", "About Us", "Contact Us"}, {0},
+                         BCheck, &businessBack, &businessNext, QStringLiteral("business"));
+    frmstep2p = tickPage(QStringLiteral("frmstep2p"), QStringLiteral("Personal Pages ::"), QStringLiteral("PCheck"),
+                         {"Home Page (always made)", "Pictures", "About", "Hobbies", "Frame set Index.htm (always made)",
+                          "Links", "Contact Me"},
+                         {0, 4}, PCheck, &personalBack, &personalNext, QStringLiteral("personal"));
 
     frmcustom = wizardPage(QStringLiteral("frmcustom"), QStringLiteral("Custom Files ::"),
                            QStringLiteral("Add the files of the site. Each is copied into the new folder under its own name."), steps);
@@ -201,6 +186,21 @@ SiteManagment::SiteManagment(QWidget* parent) : QDialog(parent)
     connect(SmartNetButton13, &QPushButton::clicked, this, Event([this] { SmartNetButton13_Click(); }));
     connect(SmartNetButton1, &QPushButton::clicked, this, Event([this] { SmartNetButton1_Click(); }));
     resize(560, 460);
+}
+
+QFrame* SiteManagment::tickPage(const QString& name, const QString& heading, const QString& prefix,
+                                const QList<const char*>& captions, const QList<int>& alwaysMade, QCheckBox** boxes,
+                                QPushButton** back, QPushButton** next, const QString& buttonPrefix)
+{
+    QFrame* page = wizardPage(name, heading, QStringLiteral("Tick the pages of the site. The menu links each ticked page."), steps);
+    for (int i = 0; i < captions.size(); ++i) {
+        boxes[i] = tick(prefix + QString::number(i + 1), QString::fromLatin1(captions[i]), page, alwaysMade.contains(i));
+        page->layout()->addWidget(boxes[i]);
+    }
+    *back = Look::faceButton(buttonPrefix + QStringLiteral("Back"), QStringLiteral("<< Back"), page);
+    *next = Look::faceButton(buttonPrefix + QStringLiteral("Next"), QStringLiteral("Create Site >>"), page);
+    stepRow(page, {*back, *next});
+    return page;
 }
 
 void SiteManagment::Form_Load()

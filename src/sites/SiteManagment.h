@@ -62,5 +62,9 @@ protected:
 
 private:
     SiteGenerator::Request request() const;
+    // A page of ticks, the ones of pages that are always made shown ticked and fixed.
+    QFrame* tickPage(const QString& name, const QString& heading, const QString& prefix, const QList<const char*>& captions,
+                     const QList<int>& alwaysMade, QCheckBox** boxes, QPushButton** back, QPushButton** next,
+                     const QString& buttonPrefix);
     QStackedWidget* steps = nullptr;
 };
