@@ -14,6 +14,7 @@
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 #include "shell/modMain.h"
+#include "sites/Registration.h"
 #include "spelling/Registration.h"
 #include "stylesheets/Registration.h"
 #include "utilities/Registration.h"
@@ -39,6 +40,7 @@ void registerEverything()
     registerUtilities();
     registerColourTools();
     registerStylesheets();
+    registerSites();
     // Last: the menu's own branches fill in what the features have not claimed.
     registerShell();
 }

@@ -37,3 +37,10 @@ namespace Look {
 // icon when the file is not there.
 QIcon menuIcon(const QString& name);
 }
+
+namespace Look {
+// A picture of the main window's tree image list by its number: 2 a folder (open while
+// selected), 3 a page, 4 a web link, 6 an open folder, 7 a script page. Other numbers have
+// no picture.
+QIcon treeImage(int image);
+}

@@ -91,7 +91,6 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
 // The windows of the table that this build does not have yet. A name missing from both this
 // list and the registered forms is a misspelling, which a test catches.
 constexpr const char* notYetBuilt[] = {
-    "SiteManagment",
     "frmCSSCreate",
 };
 }

@@ -26,6 +26,8 @@ public:
     virtual void setSideholderVisible(bool visible) = 0;
     // The tool-tip frame's line.
     virtual void setTooltipText(const QString& text) = 0;
+    // Shows one panel of the left holder by its name ("frproject") and hides the other four.
+    virtual void showSidePanel(const QString& name) = 0;
 };
 
 // Tells the features of each new document window, so that a feature can attach itself to it

@@ -62,6 +62,7 @@ public:
     void setCaption(const QString& caption) override { setWindowTitle(caption); }
     void setSideholderVisible(bool visible) override;
     void setTooltipText(const QString& text) override;
+    void showSidePanel(const QString& name) override;
 
     // The two side holders; widths in twips, each with two states, folded and open.
     int SideholderWidth() const { return sideWidth; }

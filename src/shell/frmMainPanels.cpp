@@ -1,11 +1,13 @@
 // The main window's left pane: the strip of panel buttons and the panels it switches.
 #include "documents/OpenSave.h"
+#include "ftp/ftpnormal.h"
 #include "platform/EventProcedure.h"
 #include "platform/FileControls.h"
 #include "platform/Look.h"
 #include "platform/Twips.h"
 #include "reference/ReferencePanels.h"
 #include "shell/frmMain.h"
+#include "sites/ProjectPanel.h"
 
 #include <QComboBox>
 #include <QDateTime>
@@ -222,39 +224,23 @@ void frmMain::openChosenFile(const QString& path)
 
 QFrame* frmMain::buildProjectPanel()
 {
-    QFrame* panel = Look::headedFrame(QStringLiteral("frproject"), QStringLiteral("Project ::"), nullptr);
-    auto* v = static_cast<QVBoxLayout*>(panel->layout());
-    auto* buttons = new QHBoxLayout;
-    const std::pair<const char*, const char*> projectButtons[] = {
-        {"ProjectLoad", "Load"}, {"ProjectNew", "New"}, {"ProjectAdd", "Add"}, {"ProjectDelete", "Delete"}};
-    for (const auto& [name, caption] : projectButtons) {
-        QPushButton* b = Look::faceButton(QString::fromLatin1(name), QString::fromLatin1(caption), panel);
-        // The project commands arrive with the site projects.
-        b->setEnabled(false);
-        buttons->addWidget(b);
-    }
-    v->addLayout(buttons);
-    TreeProject = named(new QTreeWidget(panel), QStringLiteral("TreeProject"));
-    TreeProject->setHeaderHidden(true);
-    v->addWidget(TreeProject, 1);
-    auto* form = new QGridLayout;
-    const std::pair<const char*, QLabel**> labels[] = {{"prodate", &prodate}, {"proauthor", &proauthor},
-                                                       {"prosite", &prosite}, {"projectlocation", &projectlocation}};
-    const char* captions[] = {"Date :", "Author :", "Site :", "Location :"};
-    int r = 0;
-    for (const auto& [name, member] : labels) {
-        form->addWidget(new QLabel(QString::fromLatin1(captions[r]), panel), r, 0);
-        *member = named(new QLabel(panel), QString::fromLatin1(name));
-        (*member)->setWordWrap(true);
-        form->addWidget(*member, r, 1);
-        ++r;
-    }
-    v->addLayout(form);
-    auto* upload = named(new QToolButton(panel), QStringLiteral("SmartNetButton69"));
-    upload->setText(QStringLiteral("Upload Project To FTP Server"));
-    upload->setIcon(Look::menuIcon(QStringLiteral("Upload Project To FTP Server")));
-    upload->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    upload->setEnabled(false);
-    v->addWidget(upload);
+    // The site projects build and run the panel; the main window keeps its members by name and
+    // hands the project's files to the upload window.
+    QFrame* panel = ProjectPanel::create(nullptr);
+    ProjectPanel* project = panel->findChild<ProjectPanel*>();
+    TreeProject = project->TreeProject;
+    prodate = project->prodate;
+    proauthor = project->proauthor;
+    prosite = project->prosite;
+    projectlocation = project->projectlocation;
+    connect(project->SmartNetButton69, &QToolButton::clicked, this,
+            Event([project] { uploadProjectToFtp(project->files()); }));
     return panel;
+}
+
+void frmMain::showSidePanel(const QString& name)
+{
+    for (QFrame* panel : sidePanels())
+        if (panel->objectName() == name)
+            showPanel(panel);
 }

@@ -3,6 +3,7 @@
 
 #include "documents/DocumentWindow.h"
 #include "platform/FileControls.h"
+#include "platform/Forms.h"
 #include "shell/Startup.h"
 #include "shell/frmMain.h"
 
@@ -152,12 +153,12 @@ TEST_F(StartScreenTest, TheNotepadTaskMakesANotepadAndHidesTheScreen)
     EXPECT_FALSE(s->isVisible());
 }
 
-TEST_F(StartScreenTest, TasksOfWindowsThisBuildLacksAreGreyAndTheHeadingsStand)
+TEST_F(StartScreenTest, EveryTaskIsLiveAndTheHeadingsStand)
 {
     Startup* s = form<Startup>();
     EXPECT_TRUE(s->findChild<QLabel*>(QStringLiteral("Label29"))->isEnabled());  // Openform exists
     EXPECT_TRUE(s->findChild<QLabel*>(QStringLiteral("Label26"))->isEnabled());  // the page source window exists
-    EXPECT_FALSE(s->findChild<QLabel*>(QStringLiteral("Label31"))->isEnabled()); // no site manager yet
+    EXPECT_TRUE(s->findChild<QLabel*>(QStringLiteral("Label31"))->isEnabled());  // the site wizard exists
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label32"))->text(), QStringLiteral("Open A Pre-set:"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label33"))->text(), QStringLiteral("Web Options:"));
     EXPECT_EQ(s->findChild<QLabel*>(QStringLiteral("Label35"))->text(), QStringLiteral("Help :"));
@@ -167,5 +168,9 @@ TEST_F(StartScreenTest, TasksOfWindowsThisBuildLacksAreGreyAndTheHeadingsStand)
     EXPECT_TRUE(s->frframe->isVisibleTo(s));
     EXPECT_NE(s->Toolbar1, nullptr);
     saveShot(s, QStringLiteral("startup-frame-set"));
+    QTest::mouseClick(s->findChild<QLabel*>(QStringLiteral("Label31")), Qt::LeftButton);
+    ASSERT_TRUE(Forms::isLoaded(QStringLiteral("SiteManagment")));
+    EXPECT_TRUE(Forms::find(QStringLiteral("SiteManagment"))->isVisible());
+    EXPECT_FALSE(s->isVisible());
 }
 }

@@ -1,0 +1,4 @@
+#pragma once
+
+// The site projects' windows.
+void registerSites();
