@@ -92,7 +92,6 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
 // list and the registered forms is a misspelling, which a test catches.
 constexpr const char* notYetBuilt[] = {
     "SiteManagment",
-    "frmCSSCreate",
     "sidebar",
     "FeedBack",
     "frmUpdate",
@@ -169,6 +168,9 @@ QStringList windowsToBuild()
 void showForm(const QString& name)
 {
     QWidget* w = Forms::get(name);
+    // A window whose load failed has unloaded itself again.
+    if (!w)
+        return;
     w->show();
     w->raise();
     w->activateWindow();
