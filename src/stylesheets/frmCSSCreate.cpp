@@ -29,7 +29,8 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTableWidget>
-#include <QToolButton>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QVBoxLayout>
 
 using Look::named;
@@ -78,21 +79,35 @@ struct KeepSelection {
 UpDown::UpDown(const QString& name, QWidget* parent) : QWidget(parent)
 {
     setObjectName(name);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    up = named(new QToolButton(this), QStringLiteral("up"));
-    down = named(new QToolButton(this), QStringLiteral("down"));
-    up->setArrowType(Qt::UpArrow);
-    down->setArrowType(Qt::DownArrow);
-    for (QToolButton* b : {up, down}) {
-        // The arrows leave the focus in the number, which hides itself when it loses it.
-        b->setFocusPolicy(Qt::NoFocus);
-        b->setAutoRepeat(true);
-        b->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-        column->addWidget(b);
-    }
-    setFixedWidth(18);
+    setFocusPolicy(Qt::NoFocus);
+    setFixedWidth(16);
+}
+
+void UpDown::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRect r = rect().adjusted(0, 0, -1, -1);
+    const int middle = r.center().y();
+    p.fillRect(r, Look::face);
+    p.setPen(Look::heading);
+    p.drawRect(r);
+    p.drawLine(r.left(), middle, r.right(), middle);
+    // A small triangle in each half, pointing its way.
+    const qreal cx = r.center().x() + 0.5, w = 4, h = 3;
+    p.setPen(Qt::NoPen);
+    p.setBrush(palette().color(QPalette::ButtonText));
+    const qreal upY = (r.top() + middle) / 2.0, downY = (middle + r.bottom()) / 2.0 + 1;
+    p.drawPolygon(QPolygonF{{cx - w, upY + h / 2}, {cx + w, upY + h / 2}, {cx, upY - h / 2}});
+    p.drawPolygon(QPolygonF{{cx - w, downY - h / 2}, {cx + w, downY - h / 2}, {cx, downY + h / 2}});
+}
+
+void UpDown::mousePressEvent(QMouseEvent* e)
+{
+    if (e->button() != Qt::LeftButton)
+        return;
+    step(e->position().y() < height() / 2.0 ? 1 : -1);
+    Q_EMIT stepped();
 }
 
 void UpDown::step(int by)
@@ -149,6 +164,9 @@ frmCSSCreate::frmCSSCreate(QWidget* parent) : QDialog(parent)
     const int widths[4] = {1800, 1800, 600, 600};
     for (int c = 0; c < 4; ++c)
         Flex->setColumnWidth(c, twipsToPixels(widths[c]));
+    // The choices' column takes what room is left, so more of the choices show.
+    Flex->horizontalHeader()->setMinimumSectionSize(twipsToPixels(widths[3]));
+    Flex->horizontalHeader()->setStretchLastSection(true);
     list->addWidget(Flex, 1);
 
     // The value editors live over the grid's cells.
@@ -217,8 +235,7 @@ frmCSSCreate::frmCSSCreate(QWidget* parent) : QDialog(parent)
     connect(Combo1, &QComboBox::activated, this, Event([this](int) { Combo1_Click(); }));
     connect(txtinput, &QLineEdit::textEdited, this, Event([this] { txtinput_Change(); }));
     connect(txtnum, &QLineEdit::textEdited, this, Event([this] { txtnum_Change(); }));
-    connect(UpDown1->up, &QToolButton::clicked, this, Event([this] { UpDown1->step(1); txtnum_Change(); }));
-    connect(UpDown1->down, &QToolButton::clicked, this, Event([this] { UpDown1->step(-1); txtnum_Change(); }));
+    connect(UpDown1, &UpDown::stepped, this, Event([this] { txtnum_Change(); }));
     connect(lblResult, &QLineEdit::textChanged, this, Event([this] { lblResult_Change(); }));
     connect(Command1, &QPushButton::clicked, this, Event([this] { Command1_Click(); }));
     connect(Command2, &QPushButton::clicked, this, Event([this] { Command2_Click(); }));

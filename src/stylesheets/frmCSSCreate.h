@@ -11,10 +11,10 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTableWidget;
-class QToolButton;
 class WebBrowser;
 
-// The up-down arrows beside the number editor: each click moves its buddy's number by one.
+// The up-down arrows beside the number editor: a click on the upper half adds one to its buddy's
+// number, on the lower half takes one away. It takes no focus, so the number keeps it.
 class UpDown : public QWidget {
     Q_OBJECT
 public:
@@ -22,7 +22,12 @@ public:
     void setBuddy(QLineEdit* buddy) { this->buddy = buddy; }
     void step(int by);
 
-    QToolButton *up = nullptr, *down = nullptr;
+Q_SIGNALS:
+    void stepped();
+
+protected:
+    void paintEvent(QPaintEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
 
 private:
     QLineEdit* buddy = nullptr;
