@@ -430,14 +430,24 @@ TEST_F(DesignerTest, SheetPreviewTurnsTheSheetToSmallLettersAndShowsItsRules)
 
 TEST_F(DesignerTest, ThePreviewShowsInTheBrowserView)
 {
-    auto* w = openWith(smallList);
+    auto* w = openDesigner();
     ASSERT_NE(w, nullptr);
-    QList<QUrl> loads;
+    QList<QUrl> loads, samples;
     QObject::connect(w->WebBrowser1, &WebBrowser::NavigateComplete, w, [&](const QUrl& u) { loads.append(u); });
-    w->CodeMax1->setText(QStringLiteral(".Red {background-color: #FF0000; height: 120px}"));
+    QObject::connect(w->Webb, &WebBrowser::NavigateComplete, w, [&](const QUrl& u) { samples.append(u); });
+    w->CodeMax1->setText(QStringLiteral("body {font-family: Arial, sans-serif}\r\nh1 {color: #3481D3}\r\n"
+                                        ".Warning {background-color: #FF0000; color: #FFFFFF; padding: 20px}\r\n"
+                                        "a:hover {color: #0000FF}\r\n"));
     w->Command3->click();
+    // A declaration from the list, on the sample text.
+    clickRow(w, 3);
+    ASSERT_EQ(cell(w, 3, 0), QStringLiteral("    font-weight"));
+    w->Combo1->setCurrentIndex(1);
+    Q_EMIT w->Combo1->activated(1);
+    EXPECT_EQ(w->lblResult->text(), QStringLiteral("    font-weight: bold;"));
     const QUrl page = QUrl::fromLocalFile(folder.file(QStringLiteral("Options/CSS/CSSPreview.htm")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return loads.contains(page); }, 60000));
+    const QUrl sample = QUrl::fromLocalFile(folder.file(QStringLiteral("Options/CSS/Sample.htm")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loads.contains(page) && samples.contains(sample); }, 60000));
     // The rule's colour is on the screen: the class line took it.
     const auto redShown = [w] {
         const QImage shot = w->WebBrowser1->grab().toImage();
