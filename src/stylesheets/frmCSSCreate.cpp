@@ -5,7 +5,6 @@
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
-#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 #include "platform/RuntimeError.h"
 #include "platform/TextFiles.h"
@@ -265,10 +264,7 @@ void frmCSSCreate::Form_Load()
         w->setPalette(QApplication::palette(w));
     for (QCheckBox* c : {ChkUpdate, Check1})
         c->setStyleSheet(QStringLiteral("color: white;"));
-    const int blue = PlatformColour::fromQColor(Look::heading);
-    CodeMax1->setColour(CodeMax::LineNumberBackColour, blue);
-    CodeMax1->setColour(CodeMax::LeftMarginColour, blue);
-    CodeMax1->setColour(CodeMax::LineNumberColour, PlatformColour::fromQColor(Qt::white));
+    Look::editorColours(CodeMax1);
     minus = Look::menuIcon(QStringLiteral("minus"));
     plus = Look::menuIcon(QStringLiteral("plus"));
 
