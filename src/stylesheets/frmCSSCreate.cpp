@@ -25,6 +25,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTableWidget>
@@ -387,11 +388,17 @@ void frmCSSCreate::toggleGroup(int row)
     if (!isNumber)
         throw RuntimeError::typeMismatch(QStringLiteral("Flex"));
     const bool collapsed = row + 1 < Flex->rowCount() && Flex->isRowHidden(row + 1);
-    for (int r = row + 1; r <= row + count; ++r) {
-        // A count beyond the last row is the grid's own error, after the rows that are there.
-        if (r >= Flex->rowCount())
-            throw RuntimeError(30009, QStringLiteral("Invalid Row value"), QStringLiteral("Flex"));
-        Flex->setRowHidden(r, !collapsed);
+    {
+        // Without updates the row header does not work out where each row stands on the screen,
+        // which it would do for every row again: a long group took seconds.
+        Flex->verticalHeader()->setUpdatesEnabled(false);
+        const auto updates = qScopeGuard([this] { Flex->verticalHeader()->setUpdatesEnabled(true); });
+        for (int r = row + 1; r <= row + count; ++r) {
+            // A count beyond the last row is the grid's own error, after the rows that are there.
+            if (r >= Flex->rowCount())
+                throw RuntimeError(30009, QStringLiteral("Invalid Row value"), QStringLiteral("Flex"));
+            Flex->setRowHidden(r, !collapsed);
+        }
     }
     Flex->item(row, NameColumn)->setIcon(collapsed ? minus : plus);
     Flex->setCurrentCell(row, NameColumn);

@@ -24,6 +24,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
@@ -609,8 +610,11 @@ TEST_F(DesignerTest, APropertyListThatIsMissingEmptyOddLongOrBinary)
     EXPECT_EQ(cell(w, 99999, 0), QStringLiteral("    p99999"));
     clickRow(w, 0);
     EXPECT_TRUE(w->Flex->isRowHidden(99999));
+    // The grid knows the rows are gone: nothing is left to scroll to.
+    EXPECT_TRUE(QTest::qWaitFor([w] { return w->Flex->verticalScrollBar()->maximum() == 0; }, 5000));
     clickRow(w, 0);
     EXPECT_FALSE(w->Flex->isRowHidden(99999));
+    EXPECT_TRUE(QTest::qWaitFor([w] { return w->Flex->verticalScrollBar()->maximum() > 1000; }, 5000));
     clickRow(w, 99999);
     EXPECT_TRUE(w->txtnum->isVisible());
     EXPECT_EQ(w->lblResult->text(), QStringLiteral("    p99999: ;"));
