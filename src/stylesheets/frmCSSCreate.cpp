@@ -307,6 +307,9 @@ void frmCSSCreate::fillFlex()
         const QString texts[4] = {DesignerText::cellName(p.name), p.value, p.type, p.extra};
         for (int c = 0; c < 4; ++c) {
             auto* item = new QTableWidgetItem(texts[c]);
+            // A long name or value is cut at the column's edge; its tip shows it whole.
+            if (c <= ValueColumn)
+                item->setToolTip(texts[c].trimmed());
             if (p.isGroup() && c <= ValueColumn) {
                 item->setBackground(Look::face);
                 item->setFont(bold);
@@ -409,6 +412,7 @@ void frmCSSCreate::setValue(const QString& value)
     if (edited < 0 || edited >= Flex->rowCount())
         return;
     Flex->item(edited, ValueColumn)->setText(value);
+    Flex->item(edited, ValueColumn)->setToolTip(value);
     refreshDeclaration();
 }
 

@@ -272,6 +272,8 @@ TEST_F(DesignerTest, EachTypeHasItsEditorOverTheCell)
     w->Combo1->setCurrentIndex(1);
     Q_EMIT w->Combo1->activated(1);
     EXPECT_EQ(cell(w, FontWeight, 1), QStringLiteral("bold"));
+    EXPECT_EQ(w->Flex->item(FontWeight, 1)->toolTip(), QStringLiteral("bold"));
+    EXPECT_EQ(w->Flex->item(FontWeight, 0)->toolTip(), QStringLiteral("font-weight"));
     EXPECT_EQ(w->lblResult->text(), QStringLiteral("    font-weight: bold;"));
     saveShot(w, QStringLiteral("frmCSSCreate-drop"));
     clickRow(w, FontFamily);
