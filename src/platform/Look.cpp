@@ -1,5 +1,8 @@
 #include "platform/Look.h"
 
+#include "platform/CodeMax.h"
+#include "platform/PlatformColour.h"
+
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -7,6 +10,14 @@
 #include <QVBoxLayout>
 
 namespace Look {
+
+void editorColours(CodeMax* editor)
+{
+    const int blue = PlatformColour::fromQColor(heading);
+    editor->setColour(CodeMax::LineNumberBackColour, blue);
+    editor->setColour(CodeMax::LeftMarginColour, blue);
+    editor->setColour(CodeMax::LineNumberColour, PlatformColour::fromQColor(Qt::white));
+}
 
 QPushButton* faceButton(const QString& name, const QString& caption, QWidget* parent)
 {

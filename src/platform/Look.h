@@ -32,7 +32,13 @@ QFrame* banner(const QString& name, const QString& caption, QWidget* parent);
 QFrame* headedFrame(const QString& name, const QString& heading, QWidget* parent, QLabel** headingLabel = nullptr);
 }
 
+class CodeMax;
+
 namespace Look {
+// The embedded editors' three colour slots: the margin and the numbers' ground in the heading
+// blue, the numbers in white.
+void editorColours(CodeMax* editor);
+
 // A menu or button picture by name from the application folder's Options/Images; an empty
 // icon when the file is not there.
 QIcon menuIcon(const QString& name);

@@ -4,7 +4,6 @@
 #include "platform/CodeMax.h"
 #include "platform/EventProcedure.h"
 #include "platform/Look.h"
-#include "platform/PlatformColour.h"
 #include "platform/Prompts.h"
 #include "platform/Twips.h"
 #include "report/ReportEngine.h"
@@ -122,10 +121,7 @@ void frmReport::Form_Load()
     QPalette pal = palette();
     pal.setColor(QPalette::Window, Look::heading);
     setPalette(pal);
-    const int blue = PlatformColour::fromQColor(Look::heading);
-    CodeMax1->setColour(CodeMax::LineNumberBackColour, blue);
-    CodeMax1->setColour(CodeMax::LeftMarginColour, blue);
-    CodeMax1->setColour(CodeMax::LineNumberColour, PlatformColour::fromQColor(Qt::white));
+    Look::editorColours(CodeMax1);
     clearFlex(QStringLiteral("Search Value ..."));
 }
 

@@ -88,11 +88,6 @@ constexpr std::pair<const char*, const char*> windowTable[] = {
     {"Insert TAB File", "CSVWizard"},
 };
 
-// The windows of the table that this build does not have yet. A name missing from both this
-// list and the registered forms is a misspelling, which a test catches.
-constexpr const char* notYetBuilt[] = {
-    "frmCSSCreate",
-};
 }
 
 namespace Commands {
@@ -152,19 +147,15 @@ QList<std::pair<QString, QString>> windowKeys()
     return keys;
 }
 
-QStringList windowsToBuild()
-{
-    QStringList names;
-    for (const char* name : notYetBuilt)
-        names.append(QString::fromLatin1(name));
-    return names;
-}
 
 } // namespace Commands
 
 void showForm(const QString& name)
 {
     QWidget* w = Forms::get(name);
+    // A window whose load failed has unloaded itself again.
+    if (!w)
+        return;
     w->show();
     w->raise();
     w->activateWindow();

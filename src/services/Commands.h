@@ -27,8 +27,6 @@ bool available(const QString& key);
 QString windowOf(const QString& key);
 // Every key that shows a window, with that window's name, in the table's order.
 QList<std::pair<QString, QString>> windowKeys();
-// The windows the table names that are still to be built: their keys stay disabled.
-QStringList windowsToBuild();
 
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Forms.h"
 #include "stylesheets/StyleSheets.h"
+#include "stylesheets/frmCSSCreate.h"
 
 void registerStylesheets()
 {
@@ -9,4 +10,5 @@ void registerStylesheets()
     registerForm<CSSCREATE>();
     registerForm<frmscrollbar>();
     registerForm<StyleLink>();
+    registerForm<frmCSSCreate>();
 }

@@ -2,7 +2,6 @@
 
 #include "platform/CodeMax.h"
 #include "platform/Look.h"
-#include "platform/PlatformColour.h"
 #include "wizards/Html.h"
 #include "wizards/WizardRows.h"
 
@@ -18,11 +17,7 @@ Textinput::Textinput(QWidget* parent) : WizardDialog(QStringLiteral("Text Input 
     CodeMax1 = new CodeMax(this);
     CodeMax1->setObjectName(QStringLiteral("CodeMax1"));
     CodeMax1->setMinimumHeight(120);
-    // The embedded editor's margin and numbers in the heading colour, the numbers in white.
-    const int heading = PlatformColour::fromQColor(Look::heading);
-    CodeMax1->setColour(CodeMax::LeftMarginColour, heading);
-    CodeMax1->setColour(CodeMax::LineNumberBackColour, heading);
-    CodeMax1->setColour(CodeMax::LineNumberColour, 0xFFFFFF);
+    Look::editorColours(CodeMax1);
     rows()->addRow(QStringLiteral("Text :"), CodeMax1);
 
     const auto font = WizardRows::font(rows(), QStringLiteral("Text2"), QStringLiteral("Command2"));
