@@ -7,6 +7,7 @@
 #include "platform/App.h"
 #include "platform/Application.h"
 #include "platform/CodeMax.h"
+#include "platform/TextFiles.h"
 #include "platform/Forms.h"
 #include "platform/ScriptedPrompts.h"
 #include "shell/frmMain.h"
@@ -142,11 +143,11 @@ void hundredThousandLinesParts(benchmark::State& state)
         resetPeak();
         QFile file(path);
         file.open(QIODevice::ReadOnly);
-        QString table = CsvTableText::fragment({}, QString::fromUtf8(file.readAll()), CsvTableText::comma);
+        QByteArray table = CsvTableText::fragmentUtf8({}, TextFiles::toEditorText(file.readAll()), ',');
         buildKB = std::max(buildKB, residentKB("VmHWM:") - idle);
         idle = residentKB("VmRSS:");
         resetPeak();
-        editor->setSelText(table);
+        editor->setSelUtf8(table);
         insertKB = std::max(insertKB, residentKB("VmHWM:") - idle);
     }
     state.counters["table_MB"] = static_cast<double>(editor->length()) / 1e6;

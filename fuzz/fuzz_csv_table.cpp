@@ -50,6 +50,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             fail("the table differs from the one made by plain splits", separator);
         if (table.capacity() > table.size() + 64)
             fail("the table was not measured before it was built", separator);
+        // The same table made from and in UTF-8, as a big file is made.
+        const QByteArray utf8 = CsvTableText::fragmentUtf8({}, text.toUtf8(), separator.toLatin1());
+        if (utf8 != table.toUtf8())
+            fail("the UTF-8 table differs", separator);
+        if (utf8.capacity() > utf8.size() + 64)
+            fail("the UTF-8 table was not measured before it was built", separator);
     }
     return 0;
 }

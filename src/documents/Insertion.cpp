@@ -14,6 +14,12 @@ void InsertAtCaret(const QString& text)
     ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
 }
 
+void InsertAtCaret(const QByteArray& utf8)
+{
+    ActiveDocument()->CodeMax1()->setSelUtf8(utf8);
+    ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
+}
+
 void InsertSelected(const QString& text) { ActiveDocument()->CodeMax1()->setSelText(text); }
 
 bool RefuseInNotepad()

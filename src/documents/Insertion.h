@@ -1,4 +1,5 @@
 #pragma once
+#include <QByteArray>
 #include <QString>
 
 #include "services/Workspace.h"
@@ -11,6 +12,8 @@ bool ActiveIsNotepad();
 
 // The insertion rule: the text replaces the selection, then the caret goes behind it.
 void InsertAtCaret(const QString& text);
+// The same for text already in the editor's form, UTF-8.
+void InsertAtCaret(const QByteArray& utf8);
 // The form group's insertion: the text replaces the selection and stays selected.
 void InsertSelected(const QString& text);
 

@@ -202,18 +202,18 @@ QString CodeMax::SelText() const
     return length > 0 && data ? QString::fromUtf8(data, length) : QString();
 }
 
-void CodeMax::setSelText(const QString& text)
+void CodeMax::setSelText(const QString& text) { setSelUtf8(text.toUtf8()); }
+
+void CodeMax::setSelUtf8(const QByteArray& bytes)
 {
     // Replacing the selection (empty or not) is one editor action, which a macro records; the
     // caret then stands behind the text, as it will when the macro plays. A text with a NUL
     // goes in by its length instead, which no macro records.
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
-    const QByteArray bytes = text.toUtf8();
     if (bytes.contains('\0')) {
         SendScintilla(SCI_TARGETFROMSELECTION);
         SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
     } else {
-        // The bytes made above, not a second conversion: a big table goes in once.
         SendScintilla(SCI_REPLACESEL, 0UL, bytes.constData());
     }
     SendScintilla(SCI_SETSEL, start, start + static_cast<long>(bytes.size()));

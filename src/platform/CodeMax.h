@@ -42,6 +42,9 @@ public:
     QString SelText() const;
     // Replaces the selection (or inserts at the caret) and leaves the new text selected.
     void setSelText(const QString& text);
+    // The same with text already in the editor's own form, UTF-8 (a big table made that way
+    // goes in without a second copy).
+    void setSelUtf8(const QByteArray& bytes);
     int SelLength() const;
     int TextLength() const;   // in characters
     // The text as the file holds it, straight from the editor's buffer.

@@ -24,8 +24,10 @@ const QString tabFilter = QStringLiteral("Tab Delinited Files (*.txt *.TXT)");
 
 // The table of the file: run-time error 53 for no plain file (a device or a pipe named here
 // would never end), 75 for one that cannot be read; empty when the progress step stopped it.
-QString tableOf(const QString& path, const CellTableText::Fields& fields, QChar separator,
-                const CsvTableText::Progress& progress = {})
+// The table in the editor's own form, UTF-8, made from the file read as the editor reads files:
+// a big file is then held once as bytes and once as its table, never as UTF-16.
+QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, QChar separator,
+                   const CsvTableText::Progress& progress = {})
 {
     if (path.isEmpty() || !QFileInfo(path).isFile())
         throw RuntimeError::fileNotFound();
@@ -33,9 +35,8 @@ QString tableOf(const QString& path, const CellTableText::Fields& fields, QChar 
     QByteArray bytes = TextFiles::readBytes(path, &ok);
     if (!ok)
         throw RuntimeError::pathFileAccess();
-    const QString text = TextFiles::decode(bytes);
-    bytes = QByteArray();
-    return CsvTableText::fragment(fields, text, separator, progress);
+    const QByteArray text = TextFiles::toEditorText(std::move(bytes));
+    return CsvTableText::fragmentUtf8(fields, text, separator.toLatin1(), progress);
 }
 
 QString progressText(const QString& path, int percent)
@@ -49,7 +50,7 @@ QString progressText(const QString& path, int percent)
 // What the worker thread and the window share: the stop request and the outcome.
 struct CSVWizard::Build {
     std::atomic<bool> stop = false;
-    QString table;
+    QByteArray table;
     std::shared_ptr<RuntimeError> failure;
 };
 
@@ -102,7 +103,7 @@ void CSVWizard::insertWith(QChar sep)
         Insert();
 }
 
-QString CSVWizard::fragment() const
+std::optional<QByteArray> CSVWizard::utf8Fragment() const
 {
     if (preparedFailure)
         throw *preparedFailure;

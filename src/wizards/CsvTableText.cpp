@@ -12,25 +12,28 @@ struct LineEnd {
     qsizetype next;
 };
 
-LineEnd lineEnd(QStringView text, qsizetype from)
+// The walk reads UTF-16 (QStringView) or UTF-8 (QByteArrayView) alike.
+template <class View>
+LineEnd lineEnd(View text, qsizetype from)
 {
     for (qsizetype i = from; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c == QLatin1Char('\n'))
+        const auto c = text[i];
+        if (c == '\n')
             return {i, i + 1};
-        if (c == QLatin1Char('\r'))
-            return {i, i + 1 < text.size() && text[i + 1] == QLatin1Char('\n') ? i + 2 : i + 1};
+        if (c == '\r')
+            return {i, i + 1 < text.size() && text[i + 1] == '\n' ? i + 2 : i + 1};
     }
     return {text.size(), text.size()};
 }
 
 // Tells the progress step how far a pass has come, every so many steps of the walk, so that
 // neither many short lines nor one long line go long without a word.
+template <class View>
 class Pacer {
 public:
-    Pacer(const Progress& step, QStringView text, int pass) : step(step), text(text), pass(pass) {}
+    Pacer(const Progress& step, View text, int pass) : step(step), text(text), pass(pass) {}
     // False once the step has asked to stop.
-    bool at(const QChar* position)
+    bool at(const typename View::value_type* position)
     {
         if (!step || ++count % 16384 != 0)
             return true;
@@ -40,27 +43,27 @@ public:
 
 private:
     const Progress& step;
-    QStringView text;
+    View text;
     int pass;
     qsizetype count = 0;
 };
 
 // Walks the cells of the table: row() at each line, cell(text) for each cell written. False
 // when the pacer stopped it.
-template <class Row, class Cell>
-bool walk(QStringView text, QChar separator, Pacer& pacer, Row row, Cell cell)
+template <class View, class Char, class Row, class Cell>
+bool walk(View text, Char separator, Pacer<View>& pacer, Row row, Cell cell)
 {
-    const qsizetype maxCells = fieldCount(text, separator) + 1;
+    const qsizetype maxCells = text.first(lineEnd(text, 0).end).count(separator) + 2;
     for (qsizetype at = 0; at < text.size();) {
         const LineEnd e = lineEnd(text, at);
-        const QStringView line = text.mid(at, e.end - at);
+        const View line = text.sliced(at, e.end - at);
         if (!pacer.at(line.data()))
             return false;
         row();
         qsizetype written = 0, start = 0;
         while (!line.isEmpty() && written < maxCells) {
             const qsizetype sep = line.indexOf(separator, start);
-            const QStringView c = line.mid(start, (sep < 0 ? line.size() : sep) - start);
+            const View c = line.sliced(start, (sep < 0 ? line.size() : sep) - start);
             if (!pacer.at(c.data()))
                 return false;
             cell(c);
@@ -81,43 +84,59 @@ qsizetype fieldCount(QStringView text, QChar separator)
     return first.count(separator) + 1;
 }
 
-QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress)
+namespace {
+// The table in Out (QString or QByteArray) from View: measured, then built in one piece.
+template <class Out, class View, class Char>
+Out build(const CellTableText::Fields& f, View text, Char separator, const Progress& progress,
+          Out (*convert)(const QString&))
 {
     using namespace CellTableText;
-    const QString head = openingTag(f, 0);
+    const Out head = convert(openingTag(f, 0)), end = convert(tableEnd + Html::crlf);
+    const Out rowOpen = convert(rowStart), rowClose = convert(rowEnd), cellOpen = convert(cellStart),
+              cellClose = convert(cellEnd);
 
-    qsizetype size = head.size() + tableEnd.size() + Html::crlf.size();
-    Pacer measuring(progress, text, 0);
+    qsizetype size = head.size() + end.size();
+    Pacer<View> measuring(progress, text, 0);
     if (!walk(
-            text, separator, measuring, [&] { size += rowStart.size() + rowEnd.size(); },
-            [&](QStringView c) { size += cellStart.size() + c.size() + cellEnd.size(); }))
+            text, separator, measuring, [&] { size += rowOpen.size() + rowClose.size(); },
+            [&](View c) { size += cellOpen.size() + c.size() + cellClose.size(); }))
         return {};
 
-    QString out;
+    Out out;
     out.reserve(size);
     out += head;
     bool inRow = false;
-    Pacer building(progress, text, 1);
+    Pacer<View> building(progress, text, 1);
     const bool built = walk(
         text, separator, building,
         [&] {
             if (inRow)
-                out += rowEnd;
-            out += rowStart;
+                out += rowClose;
+            out += rowOpen;
             inRow = true;
         },
-        [&](QStringView c) {
-            out += cellStart;
-            out += c;
-            out += cellEnd;
+        [&](View c) {
+            out += cellOpen;
+            out.append(c);
+            out += cellClose;
         });
     if (!built)
         return {};
     if (inRow)
-        out += rowEnd;
-    out += tableEnd;
-    out += Html::crlf;
+        out += rowClose;
+    out += end;
     return out;
+}
+}
+
+QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress)
+{
+    return build<QString>(f, text, separator, progress, [](const QString& s) { return s; });
+}
+
+QByteArray fragmentUtf8(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
+{
+    return build<QByteArray>(f, text, separator, progress, [](const QString& s) { return s.toUtf8(); });
 }
 
 }

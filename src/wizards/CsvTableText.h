@@ -1,6 +1,8 @@
 #pragma once
 #include "wizards/CellTableText.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QChar>
 #include <QString>
 #include <QStringView>
@@ -25,4 +27,8 @@ qsizetype fieldCount(QStringView text, QChar separator);
 // passes); a step that answers false stops it, and the result is empty.
 using Progress = std::function<bool(int percent)>;
 QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress = {});
+// The same table from and in UTF-8 (line ends and separators are single bytes there, never
+// part of a longer character): the form the editor holds text in, for big files.
+QByteArray fragmentUtf8(const CellTableText::Fields& f, QByteArrayView text, char separator,
+                        const Progress& progress = {});
 }

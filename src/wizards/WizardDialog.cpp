@@ -45,8 +45,11 @@ void WizardDialog::Insert()
         } else {
             beforeDelivery();
             const bool selected = delivery() == Delivery::Selected;
-            for (const QString& piece : fragments())
-                selected ? InsertSelected(piece) : InsertAtCaret(piece);
+            if (const std::optional<QByteArray> utf8 = utf8Fragment())
+                InsertAtCaret(*utf8);
+            else
+                for (const QString& piece : fragments())
+                    selected ? InsertSelected(piece) : InsertAtCaret(piece);
             afterDelivery();
         }
     } catch (const RuntimeError& e) {

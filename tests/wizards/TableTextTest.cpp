@@ -206,8 +206,12 @@ TEST(CsvTableText, Fragments)
         {"markup, NUL and other letters go in as they stand", QString::fromUtf8("<b>é</b>,x\0y", 13) + u("\r\n"), CsvTableText::comma,
          u("\r\n<tr>\r\n<td><b>é</b></td>\r\n<td>") + QString::fromUtf8("x\0y", 3) + u("</td>\r\n</tr>\r\n")},
     };
-    for (const auto& c : cases)
+    for (const auto& c : cases) {
         EXPECT_EQ(CsvTableText::fragment({}, c.text, c.separator), tag + c.rows + end) << c.name;
+        // The UTF-8 table of a big file is the same table, byte for byte.
+        EXPECT_EQ(CsvTableText::fragmentUtf8({}, c.text.toUtf8(), c.separator.toLatin1()), (tag + c.rows + end).toUtf8())
+            << c.name;
+    }
 
     CellTableText::Fields typed;
     typed.txtWidth = u("50%");
