@@ -95,6 +95,8 @@ ftpnormal::ftpnormal(QWidget* parent) : QDialog(parent)
     account->addWidget(Command1, 4, 1);
     account->addWidget(Shape1, 4, 2);
     account->addWidget(SmartNetButton1, 5, 0);
+    setTabOrder(password, cboSecurity);
+    setTabOrder(cboSecurity, upload);
     top->addLayout(account, 1);
     auto* treeBox = new QVBoxLayout;
     Tree = named(new QTreeWidget(this), QStringLiteral("Tree"));

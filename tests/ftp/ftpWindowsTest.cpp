@@ -704,9 +704,11 @@ TEST_F(FtpWindowTest, TheSecurityChoiceIsKeptBesideTheProfile)
     u->Command2->click();
     EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("Options/FTP/Site.TLS"))));
     EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("Options/FTP/Site.DAT"))));
+    u->Command3->click();
     u->show();
-    w->show();
     saveShot(u, "ftp-profiles-security");
+    u->hide();
+    w->show();
     saveShot(w, "ftp-upload-security");
 }
 
