@@ -475,7 +475,8 @@ void FtpEngine::pump()
 {
     if (!uploading || data->state() != QAbstractSocket::ConnectedState || (protectData && !data->isEncrypted()))
         return;
-    while (uploadLeft > 0 && data->bytesToWrite() < bufferLimit) {
+    // Over TLS the bytes already encrypted wait in a buffer of their own: both count.
+    while (uploadLeft > 0 && data->bytesToWrite() + data->encryptedBytesToWrite() < bufferLimit) {
         const qint64 want = std::min(chunkSize, uploadLeft);
         QByteArray piece(want, Qt::Uninitialized);
         const qint64 got = upload->read(piece.data(), want);
