@@ -45,15 +45,21 @@ FtpEngine::FtpEngine(QObject* parent) : QObject(parent)
     makeDataSocket();
 }
 
+QSslSocket* FtpEngine::replaceSocket(QSslSocket* old, const QString& name)
+{
+    if (old) {
+        old->disconnect(this);
+        old->abort();
+        old->deleteLater();
+    }
+    auto* fresh = new QSslSocket(this);
+    fresh->setObjectName(name);
+    return fresh;
+}
+
 void FtpEngine::makeControlSocket()
 {
-    if (control) {
-        control->disconnect(this);
-        control->abort();
-        control->deleteLater();
-    }
-    control = new QSslSocket(this);
-    control->setObjectName(QStringLiteral("Winsock1"));
+    control = replaceSocket(control, QStringLiteral("Winsock1"));
     connect(control, &QTcpSocket::readyRead, this, &FtpEngine::controlReadyRead);
     connect(control, &QTcpSocket::disconnected, this, &FtpEngine::controlClosed);
     connect(control, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError e) { controlError(e); });
@@ -62,13 +68,7 @@ void FtpEngine::makeControlSocket()
 
 void FtpEngine::makeDataSocket()
 {
-    if (data) {
-        data->disconnect(this);
-        data->abort();
-        data->deleteLater();
-    }
-    data = new QSslSocket(this);
-    data->setObjectName(QStringLiteral("Winsock2"));
+    data = replaceSocket(data, QStringLiteral("Winsock2"));
     // A protected data connection is ready once its handshake is done, a plain one once connected.
     connect(data, &QSslSocket::connected, this, [this] {
         if (!protectData)

@@ -134,6 +134,8 @@ private:
     void finishUpload();
     void makeDataSocket();
     void makeControlSocket();
+    // A new socket under the name, the old one (if any) closed and let go.
+    QSslSocket* replaceSocket(QSslSocket* old, const QString& name);
     int askFinal(const QString& command, int expected);
     bool secureControl(const QString& host);
     bool certificateAccepted(const QString& host);
