@@ -765,3 +765,26 @@ TEST_F(FtpWindowTest, UploadsOverTlsAfterTheCertificateQuestion)
     EXPECT_EQ(prompts.prompts().size(), asked);  // remembered: not asked again
     w->Command1->click();
 }
+
+// "TLS required" against a plain-only server: the connection is cut before the login and the
+// user reads why in a box.
+TEST_F(FtpWindowServerTest, TlsRequiredAgainstAPlainServerRefusesWithAMessage)
+{
+    ftpnormal* w = upload();
+    w->cboSecurity->setCurrentIndex(2);
+    whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 20000);  // a stuck wait is cut
+    prompts.answerMsgBox(Answer::OK);
+    connectAs(server.user(), server.password());
+    EXPECT_FALSE(advanced()->engine()->isConnected());
+    ASSERT_EQ(prompts.prompts().size(), 1);
+    EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("The server 127.0.0.1 does not offer a secure connection; it answered:\r500 ")))
+        << prompts.last().text.toStdString();
+    EXPECT_TRUE(prompts.last().text.endsWith(QStringLiteral("This connection asks for TLS, so it has been cut and your user name and "
+                                                            "password were not sent.")));
+    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_EQ(prompts.last().title, velloroTitle);
+    EXPECT_EQ(w->panelText(2), QStringLiteral("Disconnected from Server"));
+    EXPECT_EQ(w->serverShapeColour(), 255);
+    EXPECT_NE(advanced()->cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
+}
