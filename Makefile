@@ -40,6 +40,7 @@ bench: build
 	QTWEBENGINE_DISABLE_SANDBOX=1 QTWEBENGINE_CHROMIUM_FLAGS="--no-sandbox --disable-gpu" $(BUILD)/bench/bench_typing
 	bench/startup.sh $(BUILD)/velloro
 	bench/ftp.sh $(BUILD)/bench/bench_ftp_upload
+	bench/ftps.sh $(BUILD)/bench/bench_ftp_upload
 	bench/source.sh $(BUILD)/bench/bench_source_fetch
 
 fuzz: deps

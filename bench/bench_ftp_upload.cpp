@@ -1,7 +1,8 @@
-// One upload through the program's FTP engine, for bench/ftp.sh: logs in, sends FTP_FILE as
+// One upload through the program's FTP engine, for bench/ftp.sh and bench/ftps.sh: logs in, sends FTP_FILE as
 // FTP_REMOTE and waits for the server's 226. Prints the resident memory once logged in (idle)
 // and the peak after the upload, both in KiB.
 #include "ftp/FtpEngine.h"
+#include "platform/App.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -26,6 +27,13 @@ int main(int argc, char** argv)
     const QString host = qEnvironmentVariable("FTP_HOST", QStringLiteral("127.0.0.1"));
     FtpEngine engine;
     engine.setPort(quint16(qEnvironmentVariableIntValue("FTP_PORT")));
+    // FTP_TLS=1: TLS required, the server's certificate trusted without a question (the script
+    // made it a moment ago).
+    if (qEnvironmentVariableIntValue("FTP_TLS") == 1) {
+        App::setPathForTesting(qEnvironmentVariable("FTP_APP_DIR"));  // the answer is kept there
+        engine.setSecurity(FtpSecurity::Required);
+        engine.setTrustQuestion([](const QString&) { return true; });
+    }
     int completes = 0;
     QObject::connect(&engine, &FtpEngine::SendComplete, [&] { ++completes; });
     QObject::connect(&engine, &FtpEngine::message, [](const QString& text, int, const QString& title) {

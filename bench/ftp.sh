@@ -2,17 +2,25 @@
 # ftp.sh — upload throughput of the program's FTP engine beside `curl -T`, in one run, to the same
 # private vsftpd on loopback; and the engine's memory above idle while it sends.
 #
-# usage: bench/ftp.sh BENCH_FTP_UPLOAD [--size 512M]      env: RUNS=5 WARMUP=1
+# usage: bench/ftp.sh BENCH_FTP_UPLOAD [--size 512M] [--tls]      env: RUNS=5 WARMUP=1
+# --tls (bench/ftps.sh): the server takes TLS with a certificate made here by openssl; the
+# engine requires TLS and curl runs with --ssl-reqd, checking the same certificate.
 # Starts vsftpd (its own config in a temp dir: 127.0.0.1 at a free port, anonymous uploads into
 # incoming/), makes SIZE random bytes, and times WARMUP + RUNS uploads with each client, checking
 # every upload byte for byte. MB = 10^6 bytes. Everything it starts is stopped by its process id.
 set -euo pipefail
 prog=${1:?usage: bench/ftp.sh BENCH_FTP_UPLOAD [--size 512M]}; shift
-size=512M
-[ "${1:-}" = --size ] && size=${2:?--size needs a value}
+size=512M tls=
+while [ $# -gt 0 ]; do
+  case $1 in
+    --size) size=${2:?--size needs a value}; shift 2 ;;
+    --tls) tls=1; shift ;;
+    *) echo "ftp.sh: unknown option $1" >&2; exit 1 ;;
+  esac
+done
 RUNS=${RUNS:-5} WARMUP=${WARMUP:-1}
 bytes=$(numfmt --from=iec "$size")
-for tool in /usr/sbin/vsftpd curl; do
+for tool in /usr/sbin/vsftpd curl ${tls:+openssl}; do
   command -v "$tool" > /dev/null || { echo "ftp.sh: $tool missing (scripts/install-deps)" >&2; exit 1; }
 done
 
@@ -51,13 +59,24 @@ pasv_max_port=$((pasv + 200))
 secure_chroot_dir=$tmp/empty
 xferlog_enable=NO
 dirmessage_enable=NO
-ssl_enable=NO
 CONF
+curl_tls=()
+if [ -n "$tls" ]; then
+  openssl req -x509 -newkey rsa:2048 -nodes -keyout "$tmp/key.pem" -out "$tmp/cert.pem" -days 2 \
+    -subj /CN=127.0.0.1 2> /dev/null
+  printf 'ssl_enable=YES\nallow_anon_ssl=YES\nrsa_cert_file=%s\nrsa_private_key_file=%s\n' \
+    "$tmp/cert.pem" "$tmp/key.pem" >> "$tmp/vsftpd.conf"
+  curl_tls=(--ssl-reqd --cacert "$tmp/cert.pem")
+  mkdir -p "$tmp/app"
+  export FTP_TLS=1 FTP_APP_DIR=$tmp/app
+else
+  echo ssl_enable=NO >> "$tmp/vsftpd.conf"
+fi
 [ "$(id -u)" = 0 ] || echo run_as_launching_user=YES >> "$tmp/vsftpd.conf"
 setsid /usr/sbin/vsftpd "$tmp/vsftpd.conf" > "$tmp/vsftpd.out" 2>&1 & ftpd=$!
 url=ftp://127.0.0.1:$port
 for i in $(seq 50); do
-  curl -sS --max-time 2 -u anonymous:x "$url/" -o /dev/null 2>/dev/null && break
+  curl -sS --max-time 2 "${curl_tls[@]}" -u anonymous:x "$url/" -o /dev/null 2>/dev/null && break
   kill -0 "$ftpd" 2>/dev/null || { cat "$tmp/vsftpd.out" >&2; exit 1; }
   sleep 0.1
 done
@@ -82,12 +101,12 @@ run() {  # run NAME CMD...: WARMUP + RUNS checked uploads; prints the median MB/
   awk -v b="$bytes" -v us="$(median < "$tmp/times.$1")" 'BEGIN { printf "%.0f\n", b / us }'
 }
 : > "$tmp/mem"
-curl_mbps=$(run curl curl -sS -T "$FTP_FILE" -u "$FTP_USER:$FTP_PASS" "$url/$FTP_REMOTE")
+curl_mbps=$(run curl curl -sS "${curl_tls[@]}" -T "$FTP_FILE" -u "$FTP_USER:$FTP_PASS" "$url/$FTP_REMOTE")
 our_mbps=$(run velloro "$prog")
 above=$(sed -n 's/idle_rss_kib=\([0-9]*\) peak_rss_kib=\([0-9]*\)/\1 \2/p' "$tmp/mem" |
   awk '{ d = $2 - $1; if (d > m) m = d } END { printf "%.1f", m / 1024 }')
-printf 'size %s bytes, %s runs each (median)\n' "$bytes" "$RUNS"
-printf 'curl -T      %6s MB/s\n' "$curl_mbps"
+printf 'size %s bytes, %s runs each (median)%s\n' "$bytes" "$RUNS" "${tls:+, FTP over TLS}"
+printf 'curl %-8s%6s MB/s\n' "${tls:+--ssl-reqd }-T" "$curl_mbps"
 printf 'engine       %6s MB/s   (%.0f %% of curl)\n' "$our_mbps" "$(awk -v a="$our_mbps" -v b="$curl_mbps" 'BEGIN { print 100 * a / b }')"
 printf 'engine peak memory above idle: %s MiB (largest of the runs)\n' "$above"
-echo "RESULT size_bytes=$bytes curl_MBps=$curl_mbps engine_MBps=$our_mbps ratio=$(awk -v a="$our_mbps" -v b="$curl_mbps" 'BEGIN { printf "%.3f", a / b }') engine_peak_above_idle_mib=$above"
+echo "RESULT ${tls:+tls=1 }size_bytes=$bytes curl_MBps=$curl_mbps engine_MBps=$our_mbps ratio=$(awk -v a="$our_mbps" -v b="$curl_mbps" 'BEGIN { printf "%.3f", a / b }') engine_peak_above_idle_mib=$above"

@@ -1,5 +1,6 @@
 #include "ftp/FtpEngine.h"
 
+#include "ftp/FtpTrust.h"
 #include "platform/TextFiles.h"
 
 #include <QCoreApplication>
@@ -9,13 +10,16 @@
 #include <QHostAddress>
 #include <QPointer>
 #include <QStandardPaths>
-#include <QTcpSocket>
+#include <QCryptographicHash>
+#include <QSslConfiguration>
+#include <QSslSocket>
 #include <tuple>
 #include <unistd.h>
 
 
 namespace {
 using TextFiles::crlf;
+const QString velloroTitle = QStringLiteral(":: Velloro 2002 ::");
 }
 
 int winsockErrorNumber(int socketError)
@@ -35,14 +39,51 @@ int winsockErrorNumber(int socketError)
     }
 }
 
-FtpEngine::FtpEngine(QObject* parent) : QObject(parent), control(new QTcpSocket(this)), data(new QTcpSocket(this))
+FtpEngine::FtpEngine(QObject* parent) : QObject(parent)
 {
-    control->setObjectName(QStringLiteral("Winsock1"));
-    data->setObjectName(QStringLiteral("Winsock2"));
+    makeControlSocket();
+    makeDataSocket();
+}
+
+QSslSocket* FtpEngine::replaceSocket(QSslSocket* old, const QString& name)
+{
+    if (old) {
+        old->disconnect(this);
+        old->abort();
+        old->deleteLater();
+    }
+    auto* fresh = new QSslSocket(this);
+    fresh->setObjectName(name);
+    return fresh;
+}
+
+void FtpEngine::makeControlSocket()
+{
+    control = replaceSocket(control, QStringLiteral("Winsock1"));
     connect(control, &QTcpSocket::readyRead, this, &FtpEngine::controlReadyRead);
     connect(control, &QTcpSocket::disconnected, this, &FtpEngine::controlClosed);
     connect(control, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError e) { controlError(e); });
-    connect(data, &QTcpSocket::connected, this, &FtpEngine::dataConnected);
+    connect(control, &QSslSocket::newSessionTicketReceived, this, [this] { ticketsIssued = true; });
+}
+
+void FtpEngine::makeDataSocket()
+{
+    data = replaceSocket(data, QStringLiteral("Winsock2"));
+    // A protected data connection is ready once its handshake is done, a plain one once connected.
+    connect(data, &QSslSocket::connected, this, [this] {
+        if (!protectData)
+            dataConnected();
+    });
+    connect(data, &QSslSocket::encrypted, this, &FtpEngine::dataConnected);
+    // The last encrypted bytes leaving decide when an upload is over.
+    connect(data, &QSslSocket::encryptedBytesWritten, this, [this](qint64) { pump(); });
+    // A server that hands out session tickets sends one as each data connection's handshake
+    // ends. Closing before it has come would answer it with a reset, and the server would lose
+    // the file: an upload ends only once it is here.
+    connect(data, &QSslSocket::newSessionTicketReceived, this, [this] {
+        dataTicket = true;
+        pump();
+    });
     connect(data, &QTcpSocket::readyRead, this, &FtpEngine::dataReadyRead);
     connect(data, &QTcpSocket::disconnected, this, &FtpEngine::dataClosed);
     connect(data, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError e) { dataError(e); });
@@ -53,7 +94,7 @@ FtpEngine::~FtpEngine()
 {
     // End every wait still on the stack and close both channels quietly.
     ++session;
-    closingControl = closingData = true;
+    closingControl = quietData = true;
     control->abort();
     data->abort();
     download.reset();
@@ -61,6 +102,16 @@ FtpEngine::~FtpEngine()
 }
 
 bool FtpEngine::isConnected() const { return control->state() == QAbstractSocket::ConnectedState; }
+bool FtpEngine::controlEncrypted() const { return control->isEncrypted(); }
+
+QString FtpEngine::fingerprint(const QSslCertificate& certificate)
+{
+    const QByteArray hex = certificate.digest(QCryptographicHash::Sha256).toHex().toUpper();
+    QStringList pairs;
+    for (qsizetype i = 0; i + 1 < hex.size(); i += 2)
+        pairs << QString::fromLatin1(hex.mid(i, 2));
+    return pairs.join(QLatin1Char(':'));
+}
 
 QString FtpEngine::downloadFolder()
 {
@@ -110,6 +161,10 @@ bool FtpEngine::FtpConnect(const QString& host, const QString& user, const QStri
         return ok;
     };
     FtpDisconnect();
+    // A socket that has carried TLS starts the next connection as a new one: it would keep
+    // the old session and its closing state.
+    if (control->mode() != QSslSocket::UnencryptedMode)
+        makeControlSocket();
     control->connectToHost(host, serverPort);
     const bool up = waitUntil([this] {
         Q_EMIT statusText(QStringLiteral("Connecting to Server ...."));
@@ -118,6 +173,9 @@ bool FtpEngine::FtpConnect(const QString& host, const QString& user, const QStri
     if (!up)
         return done(false);
     Q_EMIT controlConnected();
+    // The name and the password go out only once the connection is as secure as asked.
+    if (wanted != FtpSecurity::Plain && !secureControl(host))
+        return done(false);
 
     qint16 result = 0;
     if (!FtpSendCommand(QStringLiteral("USER ") + user, result))
@@ -134,6 +192,11 @@ bool FtpEngine::FtpConnect(const QString& host, const QString& user, const QStri
         Q_EMIT message(QStringLiteral("USER error"), 16, QString());
     }
     const bool in = waitUntil([this] { return replyCode == 230; });
+    if (in && control->isEncrypted()) {
+        if (!protectDataChannel())
+            return done(false);
+        replyCode = 230;  // left as a plain login leaves it
+    }
     return done(in);
 }
 
@@ -147,6 +210,9 @@ void FtpEngine::disconnectSteps(bool withUpload)
     closingControl = true;
     control->abort();
     closingControl = false;
+    protectData = false;
+    awaitingFinal = false;
+    ticketsIssued = false;
     closeData();
     // What a cut connection left half-received must not prefix the next server's banner, and
     // what the last command was waiting for must not steer the next connection's data.
@@ -158,16 +224,18 @@ void FtpEngine::disconnectSteps(bool withUpload)
     Q_EMIT serverDown(withUpload);
 }
 
-void FtpEngine::closeData()
+void FtpEngine::closeData(bool gracefully)
 {
     uploading = false;
     upload.reset();
     uploadLeft = uploadUnsent = 0;
     download.reset();
     listing.clear();
-    closingData = true;
-    data->abort();
-    closingData = false;
+    quietData = true;
+    if (gracefully && data->isEncrypted())
+        data->disconnectFromHost();  // the close notice tells the server the file is whole
+    else
+        data->abort();
 }
 
 bool FtpEngine::FtpSendCommand(const QString& command)
@@ -226,11 +294,28 @@ void FtpEngine::handleLine(const QString& line)
     // hide the code a command is waiting for.
     if (!isAwaited(replyCode))
         replyCode = code;
+    if (awaitingFinal && finalReply == 0 && (code == finalExpected || code >= 400)) {
+        finalReply = code;
+        finalLine = line;
+    }
     if (code == 227) {
         const FtpReply::Passive p = FtpReply::parsePassive(line);
         if (p.ok) {
             closeData();
-            data->connectToHost(control->peerAddress(), p.port);
+            data->abort();  // a TLS connection still sending its close notice goes now
+            quietData = false;
+            dataTicket = false;
+            if (protectData) {
+                // A socket of its own for every TLS connection: one that has been through a
+                // TLS close would not send the close notice of the next. It resumes the
+                // control connection's session, as servers require, so that nobody else can
+                // take over the data connection.
+                makeDataSocket();
+                data->setSslConfiguration(control->sslConfiguration());
+                data->connectToHostEncrypted(control->peerAddress().toString(), p.port, control->peerVerifyName());
+            } else {
+                data->connectToHost(control->peerAddress(), p.port);
+            }
         } else {
             Q_EMIT runtimeError(p.errorNumber, p.errorDescription);
         }
@@ -248,8 +333,13 @@ void FtpEngine::controlClosed()
 void FtpEngine::controlError(int socketError)
 {
     // A remote close is the close event, not an error.
-    if (closingControl || socketError == QAbstractSocket::RemoteHostClosedError)
+    if (closingControl)
         return;
+    if (socketError == QAbstractSocket::RemoteHostClosedError) {
+        if (control->isEncrypted())
+            control->disconnectFromHost();
+        return;
+    }
     Q_EMIT message(QStringLiteral("Error: ") + QString::number(winsockErrorNumber(socketError)) + QStringLiteral("\r") +
                        control->errorString() + QStringLiteral(", Connection Will be cut off."),
                    0, QStringLiteral("Winsock1 Error:"));
@@ -270,6 +360,8 @@ void FtpEngine::dataConnected()
 void FtpEngine::dataReadyRead()
 {
     const QByteArray bytes = data->readAll();
+    if (quietData)
+        return;
     if (tag2 == QLatin1String("LIST")) {
         // A character cut by the end of one arrival is finished by the next.
         Q_EMIT listingData(listing.append(bytes));
@@ -283,7 +375,7 @@ void FtpEngine::dataReadyRead()
 
 void FtpEngine::dataClosed()
 {
-    if (closingData)
+    if (quietData)
         return;
     if (data->bytesAvailable() > 0)
         dataReadyRead();
@@ -301,8 +393,15 @@ void FtpEngine::dataClosed()
 
 void FtpEngine::dataError(int socketError)
 {
-    if (closingData || socketError == QAbstractSocket::RemoteHostClosedError)
+    if (quietData)
         return;
+    if (socketError == QAbstractSocket::RemoteHostClosedError) {
+        // A TLS close notice leaves the connection open below it: closing our side too
+        // raises the close event that a plain close raises by itself.
+        if (data->isEncrypted())
+            data->disconnectFromHost();
+        return;
+    }
     const int number = winsockErrorNumber(socketError);
     const QString description = data->errorString();
     uploading = false;
@@ -374,9 +473,10 @@ void FtpEngine::sendOne(const QString& source, const QString& remoteName)
 
 void FtpEngine::pump()
 {
-    if (!uploading || data->state() != QAbstractSocket::ConnectedState)
+    if (!uploading || data->state() != QAbstractSocket::ConnectedState || (protectData && !data->isEncrypted()))
         return;
-    while (uploadLeft > 0 && data->bytesToWrite() < bufferLimit) {
+    // Over TLS the bytes already encrypted wait in a buffer of their own: both count.
+    while (uploadLeft > 0 && data->bytesToWrite() + data->encryptedBytesToWrite() < bufferLimit) {
         const qint64 want = std::min(chunkSize, uploadLeft);
         QByteArray piece(want, Qt::Uninitialized);
         const qint64 got = upload->read(piece.data(), want);
@@ -390,7 +490,8 @@ void FtpEngine::pump()
         uploadLeft -= got;
         data->write(piece);
     }
-    if (uploadLeft == 0 && data->bytesToWrite() == 0)
+    const bool ticketIn = !protectData || !ticketsIssued || dataTicket || data->sessionProtocol() != QSsl::TlsV1_3;
+    if (uploadLeft == 0 && data->bytesToWrite() == 0 && data->encryptedBytesToWrite() == 0 && ticketIn)
         finishUpload();
 }
 
@@ -415,7 +516,7 @@ void FtpEngine::finishUpload()
         [this, mine] {
             if (session != mine)
                 return;
-            closeData();
+            closeData(true);
             Q_EMIT SendComplete();
         },
         Qt::QueuedConnection);
@@ -431,4 +532,117 @@ void FtpEngine::Retrieve(const QString& commandText)
 {
     if (FtpSendCommand(QStringLiteral("PASV")))
         FtpSendCommand(commandText);
+}
+
+int FtpEngine::askFinal(const QString& command, int expected)
+{
+    control->write(TextFiles::encode(command + crlf));
+    tag1 = FtpReply::verbOf(command);
+    awaitingFinal = true;
+    finalExpected = expected;
+    finalReply = 0;
+    finalLine.clear();
+    const bool done = waitUntil([this] { return finalReply != 0; });
+    awaitingFinal = false;
+    tag1.clear();
+    replyCode = 0;
+    return done ? finalReply : 0;
+}
+
+void FtpEngine::refuse(const QString& text)
+{
+    FtpDisconnect();
+    Q_EMIT message(text, 16, velloroTitle);
+}
+
+bool FtpEngine::secureControl(const QString& host)
+{
+    const int answer = askFinal(QStringLiteral("AUTH TLS"), 234);
+    if (answer == 0)
+        return false;
+    if (answer != 234) {
+        if (wanted == FtpSecurity::IfOffered)
+            return true;
+        refuse(QStringLiteral("The server ") + host + QStringLiteral(" does not offer a secure connection; it answered:\r") +
+               finalLine + QStringLiteral("\r\rThis connection asks for TLS, so it has been cut and your user name and "
+                                         "password were not sent."));
+        return false;
+    }
+    QSslConfiguration c = control->sslConfiguration();
+    // The certificate is judged below, before anything of the user's is sent; the session is
+    // kept so the data connections can resume it.
+    c.setPeerVerifyMode(QSslSocket::VerifyNone);
+    c.setSslOption(QSsl::SslOptionDisableSessionPersistence, false);
+    control->setSslConfiguration(c);
+    control->setPeerVerifyName(host);
+    control->startClientEncryption();
+    if (!waitUntil([this] { return control->isEncrypted(); }))
+        return false;
+    return certificateAccepted(host);
+}
+
+bool FtpEngine::certificateAccepted(const QString& host)
+{
+    const QList<QSslCertificate> chain = control->peerCertificateChain();
+    if (chain.isEmpty()) {
+        refuse(QStringLiteral("The server ") + host + QStringLiteral(" showed no certificate. The connection has been cut and your "
+                                                                     "password was not sent."));
+        return false;
+    }
+    const QList<QSslError> problems = QSslCertificate::verify(chain, host);
+    if (problems.isEmpty())
+        return true;  // a certificate the system vouches for
+    const QString shown = fingerprint(chain.first());
+    const FtpTrust::Entry known = FtpTrust::lookUp(host);
+    if (known.answer == FtpTrust::Answer::Trusted && known.fingerprint == shown)
+        return true;
+    if (known.answer == FtpTrust::Answer::Trusted) {
+        refuse(QStringLiteral("The certificate of ") + host + QStringLiteral(" has changed since you trusted it.\r\rTrusted:\r") +
+               known.fingerprint + QStringLiteral("\rNow shown:\r") + shown +
+               QStringLiteral("\r\rSomeone may be listening in. The connection has been cut and your password was not sent. If the "
+                              "server's owner confirms the new certificate, remove the line of ") +
+               host + QStringLiteral(" from ") + QDir::toNativeSeparators(FtpTrust::path()) + QStringLiteral(" and connect again."));
+        return false;
+    }
+    if (known.answer == FtpTrust::Answer::Refused && known.fingerprint == shown) {
+        refuse(QStringLiteral("You refused this certificate of ") + host + QStringLiteral(" before:\r") + shown +
+               QStringLiteral("\r\rThe connection has been cut and your password was not sent. To be asked again, remove the line of ") +
+               host + QStringLiteral(" from ") + QDir::toNativeSeparators(FtpTrust::path()) + QStringLiteral("."));
+        return false;
+    }
+    const QString question = QStringLiteral("The server ") + host +
+                             QStringLiteral(" shows a certificate that this computer cannot check (") + problems.first().errorString() +
+                             QStringLiteral(").\r\rSHA-256 fingerprint:\r") + shown +
+                             QStringLiteral("\r\rCompare it with the one your host gave you. Trust this certificate for ") + host +
+                             QStringLiteral("? Your answer is remembered.");
+    QPointer<FtpEngine> self(this);
+    const quint64 mine = session;
+    const bool yes = askTrust && askTrust(question);
+    // The question ran a loop of its own: the connection may have been cut meanwhile.
+    if (!self || session != mine)
+        return false;
+    FtpTrust::remember(host, yes ? FtpTrust::Answer::Trusted : FtpTrust::Answer::Refused, shown);
+    if (!yes) {
+        FtpDisconnect();
+        return false;
+    }
+    return true;
+}
+
+bool FtpEngine::protectDataChannel()
+{
+    const int size = askFinal(QStringLiteral("PBSZ 0"), 200);
+    const int prot = size == 200 ? askFinal(QStringLiteral("PROT P"), 200) : size;
+    if (prot == 0)
+        return false;
+    if (prot == 200) {
+        protectData = true;
+        return true;
+    }
+    if (wanted == FtpSecurity::IfOffered)
+        return true;  // the files go in the clear; the password did not
+    refuse(QStringLiteral("The server ") + control->peerVerifyName() +
+           QStringLiteral(" would not protect the transfers of files; it answered:\r") + finalLine +
+           QStringLiteral("\r\rThis connection asks for TLS, so it has been cut."));
+    return false;
 }

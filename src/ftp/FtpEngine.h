@@ -1,14 +1,15 @@
 #pragma once
+#include "ftp/FtpProfiles.h"
 #include "ftp/FtpReply.h"
 
 #include <QFile>
 #include <QObject>
 #include <QPair>
+#include <QSslSocket>
 #include <QString>
 #include <functional>
 #include <memory>
 
-class QTcpSocket;
 
 // The program's own FTP client on two sockets: Winsock1 carries the commands and replies,
 // Winsock2 the passive data connection. It has no window; the upload and advanced windows are
@@ -26,6 +27,19 @@ public:
     // The server's port: 21 for the program; tests point it elsewhere.
     void setPort(quint16 port) { serverPort = port; }
     quint16 port() const { return serverPort; }
+
+    // TLS on the control connection (AUTH TLS) and on the data connections (PBSZ 0, PROT P).
+    // Plain, the default, sends what it always sent.
+    void setSecurity(FtpSecurity s) { wanted = s; }
+    FtpSecurity security() const { return wanted; }
+    bool controlEncrypted() const;
+    bool dataProtected() const { return protectData; }
+    // Asked (through the windows' message box) when a server shows a certificate the system
+    // cannot check and no answer for the host is remembered: the text of the question, true to
+    // trust it. Without one such a certificate is refused.
+    void setTrustQuestion(std::function<bool(const QString&)> question) { askTrust = std::move(question); }
+    // SHA-256 of the certificate, as colon-separated upper-case hex pairs.
+    static QString fingerprint(const QSslCertificate& certificate);
 
     // Logs in: returns once the server has sent 230, or false when the wait was ended by the
     // connection closing.
@@ -48,8 +62,9 @@ public:
     // The disconnect steps that the control connection's close event and the windows share.
     // withUpload says whether the upload button comes back enabled.
     void disconnectSteps(bool withUpload);
-    // Closes the data connection without raising its close event.
-    void closeData();
+    // Closes the data connection without raising its close event; gracefully lets a TLS
+    // connection send its close notice and its last bytes first.
+    void closeData(bool gracefully = false);
 
     qint16 ReplyCode() const { return replyCode; }
     QString controlTag() const { return tag1; }
@@ -117,9 +132,30 @@ private:
     void sendOne(const QString& source, const QString& remoteName);
     void pump();
     void finishUpload();
+    void makeDataSocket();
+    void makeControlSocket();
+    // A new socket under the name, the old one (if any) closed and let go.
+    QSslSocket* replaceSocket(QSslSocket* old, const QString& name);
+    int askFinal(const QString& command, int expected);
+    bool secureControl(const QString& host);
+    bool certificateAccepted(const QString& host);
+    bool protectDataChannel();
+    void refuse(const QString& text);
 
-    QTcpSocket* control = nullptr;
-    QTcpSocket* data = nullptr;
+    QSslSocket* control = nullptr;
+    QSslSocket* data = nullptr;
+    FtpSecurity wanted = FtpSecurity::Plain;
+    std::function<bool(const QString&)> askTrust;
+    // PROT P is in force: every data connection is TLS, resuming the control's session.
+    bool protectData = false;
+    // The server sends TLS session tickets; the current data connection's has come.
+    bool ticketsIssued = false;
+    bool dataTicket = false;
+    // The final reply a set-up command (AUTH, PBSZ, PROT) is waiting for.
+    bool awaitingFinal = false;
+    int finalExpected = 0;
+    int finalReply = 0;
+    QString finalLine;
     quint16 serverPort = 21;
     FtpReply::Buffer buffer;
     qint16 replyCode = 0;
@@ -134,9 +170,10 @@ private:
     quint64 session = 0;
     int waits = 0;
     qint64 received = 0;
-    // Our own closes raise no close event.
+    // Our own closes raise no close event: for the data connection, until the next one starts
+    // (a TLS data connection closes in its own time, after its close notice).
     bool closingControl = false;
-    bool closingData = false;
+    bool quietData = false;
 
     std::unique_ptr<QFile> download;
     std::unique_ptr<QFile> upload;

@@ -98,4 +98,25 @@ bool readProfile(const QString& name, Profile& p)
     }
     return true;
 }
+
+namespace {
+const QString securityWords[] = {QStringLiteral("plain"), QStringLiteral("if-offered"), QStringLiteral("required")};
+}
+
+QString securityPath(const QString& name) { return folder() + QLatin1Char('/') + name + QStringLiteral(".TLS"); }
+
+FtpSecurity readSecurity(const QString& name)
+{
+    const QString word = TextFiles::readText(securityPath(name)).trimmed();
+    for (int i = 0; i < 3; ++i)
+        if (word == securityWords[i])
+            return FtpSecurity(i);
+    return FtpSecurity::Plain;
+}
+
+bool writeSecurity(const QString& name, FtpSecurity security)
+{
+    QDir().mkpath(folder());
+    return TextFiles::writeBytes(securityPath(name), TextFiles::encode(securityWords[int(security)] + QStringLiteral("\r\n")));
+}
 }

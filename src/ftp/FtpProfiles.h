@@ -5,6 +5,9 @@
 // The FTP accounts under Options/FTP: Main.DAT lists the profile names one a line, and each
 // profile is a seven-line <name>.DAT between a start and an end marker. The password is kept in
 // the clear, so every profile file is readable by its owner only.
+// How a connection is made: in the clear, in TLS when the server offers it, or in TLS or not at all.
+enum class FtpSecurity { Plain, IfOffered, Required };
+
 namespace FtpProfiles {
 
 struct Profile {
@@ -36,4 +39,11 @@ bool writeProfile(const Profile& p);
 // is dropped and fields 2 to 6 fill the profile. A comma cuts a field and shifts the later
 // ones. False when the file is missing or runs out of fields.
 bool readProfile(const QString& name, Profile& p);
+
+// A profile's security choice is kept beside its file, in <name>.TLS (one word and CR LF:
+// "plain", "if-offered" or "required"), so the profile file keeps its seven lines. A profile
+// without one was made before the choice existed and stays plain.
+QString securityPath(const QString& name);
+FtpSecurity readSecurity(const QString& name);
+bool writeSecurity(const QString& name, FtpSecurity security);
 }

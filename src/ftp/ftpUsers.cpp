@@ -6,6 +6,7 @@
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 
+#include <QComboBox>
 #include <QDateTime>
 #include <QFile>
 #include <QGridLayout>
@@ -52,6 +53,14 @@ QList<QTreeWidgetItem*> profileNodes(QTreeWidget* tree)
     return nodes;
 }
 
+QComboBox* securityBox(QWidget* parent)
+{
+    auto* box = named(new QComboBox(parent), QStringLiteral("cboSecurity"));
+    box->addItems({QStringLiteral("Plain FTP (not encrypted)"), QStringLiteral("TLS if offered"), QStringLiteral("TLS required")});
+    box->setToolTip(QStringLiteral("TLS encrypts the password and the files; \"TLS required\" never sends them in the clear"));
+    return box;
+}
+
 QString profileDate() { return QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy hh:mm:ss")); }
 
 void RefreshProfiles()
@@ -83,7 +92,12 @@ ftpUsers::ftpUsers(QWidget* parent) : QDialog(parent)
     txtAddress = field("txtAddress", QStringLiteral("FTP Address :"), 1);
     txtUsername = field("txtUsername", QStringLiteral("Username :"), 2);
     txtPassword = field("txtPassword", QStringLiteral("Password :"), 3);
-    txtDate = field("txtDate", QStringLiteral("Date :"), 4);
+    cboSecurity = securityBox(this);
+    // New accounts ask for TLS where the server offers it.
+    cboSecurity->setCurrentIndex(int(FtpSecurity::IfOffered));
+    grid->addWidget(new QLabel(QStringLiteral("Security :"), this), 4, 0);
+    grid->addWidget(cboSecurity, 4, 1);
+    txtDate = field("txtDate", QStringLiteral("Date :"), 5);
     right->addLayout(grid);
 
     auto* buttons = new QHBoxLayout;
@@ -120,6 +134,7 @@ void ftpUsers::clearForNew()
     for (QLineEdit* e : {txtProfile, txtAddress, txtUsername, txtPassword})
         e->clear();
     txtDate->setText(profileDate());
+    cboSecurity->setCurrentIndex(int(FtpSecurity::IfOffered));
 }
 
 void ftpUsers::Command3_Click() { clearForNew(); }
@@ -140,6 +155,7 @@ void ftpUsers::Command1_Click()
     }
     FtpProfiles::ensureIndex();
     FtpProfiles::writeProfile({name, txtAddress->text(), txtUsername->text(), txtPassword->text(), txtDate->text()});
+    FtpProfiles::writeSecurity(name, FtpSecurity(cboSecurity->currentIndex()));
     FtpProfiles::appendIndex(name);
     MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been added, list will now refresh."), Style::Information);
     RefreshProfiles();
@@ -157,6 +173,7 @@ void ftpUsers::SmartNetButton2_Click()
         return;
     }
     FtpProfiles::writeProfile({name, txtAddress->text(), txtUsername->text(), txtPassword->text(), txtDate->text()});
+    FtpProfiles::writeSecurity(name, FtpSecurity(cboSecurity->currentIndex()));
     MsgBox(QStringLiteral("The user : ") + name + QStringLiteral(" has been updated."), Style::Information);
 }
 
@@ -170,6 +187,7 @@ void ftpUsers::Command2_Click()
         return;
     }
     QFile::remove(FtpProfiles::profilePath(name));
+    QFile::remove(FtpProfiles::securityPath(name));
     for (QTreeWidgetItem* n : profileNodes(Tree)) {
         if (nodeKey(n) == name) {
             delete n;
@@ -202,4 +220,5 @@ void ftpUsers::Tree_NodeClick(QTreeWidgetItem* node)
     txtUsername->setText(p.username);
     txtPassword->setText(p.password);
     txtDate->setText(p.date);
+    cboSecurity->setCurrentIndex(int(FtpProfiles::readSecurity(nodeKey(node))));
 }

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QComboBox;
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;
@@ -28,6 +29,8 @@ public:
     QLineEdit* txtPassword = nullptr;
     QLineEdit* txtDate = nullptr;
     QTreeWidget* Tree = nullptr;
+    // Plain, TLS if offered, TLS required: kept beside the profile's file.
+    QComboBox* cboSecurity = nullptr;
     QPushButton* Command1 = nullptr;
     QPushButton* Command2 = nullptr;
     QPushButton* Command3 = nullptr;
@@ -48,5 +51,7 @@ void fillProfileTree(QTreeWidget* tree);
 QString nodeKey(const QTreeWidgetItem* node);
 // The nodes from the third on, in order.
 QList<QTreeWidgetItem*> profileNodes(QTreeWidget* tree);
+// The security choice as both FTP windows offer it, in the order of FtpSecurity.
+QComboBox* securityBox(QWidget* parent);
 // The date text of a new profile.
 QString profileDate();

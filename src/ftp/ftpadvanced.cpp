@@ -7,6 +7,7 @@
 #include "platform/Look.h"
 #include "platform/Prompts.h"
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -157,6 +158,9 @@ ftpadvanced::ftpadvanced(QWidget* parent) : QDialog(parent), ftp(new FtpEngine(t
             Event([](qint64 sent, qint64 remaining) { uploadWindow()->onSendProgress(sent, remaining); }));
     connect(ftp, &FtpEngine::SendComplete, this, Event([] { uploadWindow()->onSendComplete(); }));
     connect(ftp, &FtpEngine::Winsock2Error, this, Event([] { uploadWindow()->onDataError(); }));
+    ftp->setTrustQuestion([](const QString& question) {
+        return MsgBox(question, Style::YesNo | Style::Question, QStringLiteral(":: Velloro 2002 ::")) == Answer::Yes;
+    });
     resize(720, 640);
 }
 
@@ -201,6 +205,7 @@ void ftpadvanced::Command1_Click()
 {
     ftpnormal* n = uploadWindow();
     ftp->setPort(serverPort);
+    ftp->setSecurity(FtpSecurity(n->cboSecurity->currentIndex()));
     ftp->FtpConnect(n->ftpaddress->text(), n->username->text(), n->password->text());
 }
 

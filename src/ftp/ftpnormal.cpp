@@ -87,10 +87,16 @@ ftpnormal::ftpnormal(QWidget* parent) : QDialog(parent)
     Shape1 = named(new QFrame(this), QStringLiteral("Shape1"));
     Shape1->setFixedSize(16, 16);
     Shape1->setAutoFillBackground(true);
-    account->addWidget(upload, 3, 0);
-    account->addWidget(Command1, 3, 1);
-    account->addWidget(Shape1, 3, 2);
-    account->addWidget(SmartNetButton1, 4, 0);
+    // An account typed in by hand connects as it always did; a profile brings its own choice.
+    cboSecurity = securityBox(this);
+    account->addWidget(new QLabel(QStringLiteral("Security :"), this), 3, 0);
+    account->addWidget(cboSecurity, 3, 1);
+    account->addWidget(upload, 4, 0);
+    account->addWidget(Command1, 4, 1);
+    account->addWidget(Shape1, 4, 2);
+    account->addWidget(SmartNetButton1, 5, 0);
+    setTabOrder(password, cboSecurity);
+    setTabOrder(cboSecurity, upload);
     top->addLayout(account, 1);
     auto* treeBox = new QVBoxLayout;
     Tree = named(new QTreeWidget(this), QStringLiteral("Tree"));
@@ -301,6 +307,7 @@ void ftpnormal::Tree_NodeClick(QTreeWidgetItem* node)
     ftpaddress->setText(p.address);
     username->setText(p.username);
     password->setText(p.password);
+    cboSecurity->setCurrentIndex(int(FtpProfiles::readSecurity(nodeKey(node))));
 }
 
 void ftpnormal::upload_Click()

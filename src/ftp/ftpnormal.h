@@ -61,6 +61,8 @@ public:
     QLineEdit* ftpaddress = nullptr;
     QLineEdit* username = nullptr;
     QLineEdit* password = nullptr;
+    // How the connection is made; a profile's click sets it.
+    QComboBox* cboSecurity = nullptr;
     QTreeWidget* Tree = nullptr;
     DriveListBox* Drive1 = nullptr;
     DirListBox* Dir1 = nullptr;

@@ -2,6 +2,7 @@
 // that go up are compared byte for byte with what the server stored.
 #include "EngineHarness.h"
 #include "FtpServers.h"
+#include "platform/App.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +19,15 @@ protected:
         if (!server->start(&why))
             GTEST_SKIP() << why.toStdString();
         engine.setPort(server->port());
+        if (GetParam() == FtpServer::VsftpdTls) {
+            // Everything over TLS, the server's certificate trusted when asked.
+            App::setPathForTesting(appFolder.path());
+            engine.setSecurity(FtpSecurity::Required);
+            engine.setTrustQuestion([this](const QString& q) {
+                questions << q;
+                return true;
+            });
+        }
         QObject::connect(&engine, &FtpEngine::retrieved, [this](const QString& folder) { shownFolders << folder; });
     }
 
@@ -28,6 +38,13 @@ protected:
         EXPECT_FALSE(guard.timedOut);
         EXPECT_TRUE(ok) << "log: " << rec.lines.join(QLatin1Char('|')).toStdString()
                         << " messages: " << rec.messages.join(QLatin1Char('|')).toStdString() << " server: " << server->output().toStdString();
+        if (ok && GetParam() == FtpServer::VsftpdTls) {
+            // The one question showed the certificate's fingerprint as openssl prints it.
+            EXPECT_TRUE(engine.controlEncrypted());
+            EXPECT_TRUE(engine.dataProtected());
+            EXPECT_EQ(questions.size(), 1);
+            EXPECT_TRUE(questions.value(0).contains(server->fingerprint())) << questions.value(0).toStdString();
+        }
         return ok;
     }
     QString local(const QString& name, const QByteArray& bytes)
@@ -42,7 +59,7 @@ protected:
     {
         CutWhen guard(engine, nullptr, 120000);
         engine.SendFile(path, remote);
-        EXPECT_FALSE(guard.timedOut);
+        EXPECT_FALSE(guard.timedOut) << rec.lines.join(QLatin1Char('|')).toStdString() << rec.messages.join(QLatin1Char('|')).toStdString();
     }
     void retrieve(const QString& command)
     {
@@ -56,6 +73,8 @@ protected:
     EngineRecorder rec{engine};
     QTemporaryDir files;
     QStringList shownFolders;
+    QTemporaryDir appFolder;
+    QStringList questions;
 };
 }
 
@@ -103,7 +122,7 @@ TEST_P(EngineAgainstServer, ViewFilesListsTheFolder)
     ASSERT_TRUE(login());
     CutWhen guard(engine, nullptr);
     engine.ViewFiles();
-    ASSERT_FALSE(guard.timedOut);
+    ASSERT_FALSE(guard.timedOut) << rec.lines.join(QLatin1Char('|')).toStdString() << rec.messages.join(QLatin1Char('|')).toStdString();
     EXPECT_TRUE(rec.logHas(QStringLiteral("227")));
     EXPECT_TRUE(rec.logHas(QStringLiteral("226")));
     // The listing may still be arriving after the 226.
@@ -219,3 +238,5 @@ INSTANTIATE_TEST_SUITE_P(Servers, EngineAgainstServer, ::testing::Values(FtpServ
                          [](const auto& info) {
                              return std::string(info.param == FtpServer::Pyftpdlib ? "pyftpdlib" : "vsftpd");
                          });
+INSTANTIATE_TEST_SUITE_P(Tls, EngineAgainstServer, ::testing::Values(FtpServer::VsftpdTls),
+                         [](const auto&) { return std::string("vsftpd_tls"); });

@@ -54,6 +54,33 @@ QString FtpServer::upload(const QString& name) const
     return kind == Pyftpdlib ? name : QStringLiteral("incoming/") + name;
 }
 
+bool FtpServer::makeCertificate(QString* why)
+{
+    const auto run = [&](const QStringList& args, QByteArray* out) {
+        QProcess p;
+        p.start(QStringLiteral("openssl"), args);
+        const bool ok = p.waitForFinished(30000) && p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
+        if (out)
+            *out = p.readAllStandardOutput();
+        if (!ok)
+            *why = QStringLiteral("openssl failed (scripts/install-deps installs it): ") + QString::fromLocal8Bit(p.readAllStandardError());
+        return ok;
+    };
+    const QString cert = dir.path() + QStringLiteral("/cert.pem");
+    QByteArray out;
+    if (!run({QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"), QStringLiteral("rsa:2048"), QStringLiteral("-nodes"),
+              QStringLiteral("-keyout"), dir.path() + QStringLiteral("/key.pem"), QStringLiteral("-out"), cert, QStringLiteral("-days"),
+              QStringLiteral("2"), QStringLiteral("-subj"), QStringLiteral("/CN=127.0.0.1")},
+             nullptr) ||
+        !run({QStringLiteral("x509"), QStringLiteral("-noout"), QStringLiteral("-fingerprint"), QStringLiteral("-sha256"),
+              QStringLiteral("-in"), cert},
+             &out))
+        return false;
+    // "sha256 Fingerprint=AB:CD:..."
+    certificateFingerprint = QString::fromLatin1(out).section(QLatin1Char('='), 1).trimmed();
+    return true;
+}
+
 QString FtpServer::root() const { return dir.path() + QStringLiteral("/root"); }
 QString FtpServer::output() const { return QString::fromLocal8Bit(const_cast<QProcess&>(process).readAll()); }
 
@@ -111,7 +138,7 @@ bool FtpServer::start(QString* why)
             "anon_other_write_enable=YES\nanon_mkdir_write_enable=YES\nanon_umask=022\nanon_root=%2\n"
             "ftp_username=ftp\npasv_enable=YES\npasv_address=127.0.0.1\n"
             "pasv_min_port=%3\npasv_max_port=%4\nsecure_chroot_dir=%5\nxferlog_enable=NO\n"
-            "dirmessage_enable=NO\nssl_enable=NO\nseccomp_sandbox=NO\n")
+            "dirmessage_enable=NO\nseccomp_sandbox=NO\n")
                            .arg(serverPort)
                            .arg(root())
                            .arg(pasv)
@@ -119,6 +146,14 @@ bool FtpServer::start(QString* why)
                            .arg(empty);
         if (getuid() != 0)
             conf += QStringLiteral("run_as_launching_user=YES\n");
+        if (kind == VsftpdTls) {
+            if (!makeCertificate(why))
+                return false;
+            conf += QStringLiteral("ssl_enable=YES\nallow_anon_ssl=YES\nrsa_cert_file=%1/cert.pem\nrsa_private_key_file=%1/key.pem\n")
+                        .arg(dir.path());
+        } else {
+            conf += QStringLiteral("ssl_enable=NO\n");
+        }
         const QString confPath = dir.path() + QStringLiteral("/vsftpd.conf");
         QFile f(confPath);
         if (!f.open(QIODevice::WriteOnly)) {

@@ -9,7 +9,10 @@
 // folder, and stopped (by its own process id) when the object goes.
 class FtpServer {
 public:
-    enum Kind { Pyftpdlib, Vsftpd };
+    // VsftpdTls: vsftpd with ssl_enable=YES and a self-signed certificate that start() makes
+    // with openssl; data connections must resume the control connection's TLS session, as
+    // vsftpd requires by default.
+    enum Kind { Pyftpdlib, Vsftpd, VsftpdTls };
     explicit FtpServer(Kind kind);
     ~FtpServer();
     FtpServer(const FtpServer&) = delete;
@@ -25,6 +28,8 @@ public:
     // The remote name an upload of this name goes to (vsftpd takes uploads below its root).
     QString upload(const QString& name) const;
     QString name() const { return kind == Pyftpdlib ? QStringLiteral("pyftpdlib") : QStringLiteral("vsftpd"); }
+    // The certificate's SHA-256 fingerprint as openssl prints it ("AB:CD:..."); TLS only.
+    QString fingerprint() const { return certificateFingerprint; }
     QByteArray readFile(const QString& name) const;
     void writeFile(const QString& name, const QByteArray& bytes) const;
     // What the server printed (for failure messages).
@@ -35,6 +40,8 @@ private:
     QTemporaryDir dir;
     QProcess process;
     quint16 serverPort = 0;
+    QString certificateFingerprint;
+    bool makeCertificate(QString* why);
 };
 
 // A port nothing listens on right now.

@@ -657,3 +657,134 @@ TEST_F(FtpWindowDataErrorTest, ListingAndRetrievePressedWhileAnUploadWaitsWaitTh
     EXPECT_FALSE(fake.lines.contains(QByteArray("LIST")));
     EXPECT_EQ(a->engine()->activeWaits(), 0);
 }
+
+// The security choice: kept beside the profile's file (which keeps its seven lines), brought
+// into the upload window by a click, gone with the profile.
+TEST_F(FtpWindowTest, TheSecurityChoiceIsKeptBesideTheProfile)
+{
+    ftpnormal* w = upload();
+    ftpUsers* u = users();
+    const QStringList choices = {"Plain FTP (not encrypted)", "TLS if offered", "TLS required"};
+    for (QComboBox* box : {u->cboSecurity, w->cboSecurity}) {
+        QStringList items;
+        for (int i = 0; i < box->count(); ++i)
+            items << box->itemText(i);
+        EXPECT_EQ(items, choices);
+    }
+    // An account typed into the upload window connects as before; a new profile asks for TLS.
+    EXPECT_EQ(w->cboSecurity->currentText(), QStringLiteral("Plain FTP (not encrypted)"));
+    u->cboSecurity->setCurrentIndex(2);
+    u->Command3->click();
+    EXPECT_EQ(u->cboSecurity->currentText(), QStringLiteral("TLS if offered"));
+
+    saveProfile(QStringLiteral("Site"), QStringLiteral("ftp.site.net"), QStringLiteral("ann"), QStringLiteral("pw"));
+    EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Site.TLS")), QByteArray("if-offered\r\n"));
+    u->cboSecurity->setCurrentIndex(2);
+    prompts.answerMsgBox(Answer::OK);
+    u->SmartNetButton2->click();
+    EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Site.TLS")), QByteArray("required\r\n"));
+    const QByteArray expected = "##### FTP PROFILE START #####\r\nSite\r\nftp.site.net\r\nann\r\npw\r\n" +
+                                u->txtDate->text().toUtf8() + "\r\n##### FTP PROFILE END #####\r\n";
+    EXPECT_EQ(folder.read(QStringLiteral("Options/FTP/Site.DAT")), expected);
+
+    // A profile from before the choice existed has no .TLS file and stays plain.
+    saveProfile(QStringLiteral("Old"), QStringLiteral("ftp.old.net"), QStringLiteral("bob"), QStringLiteral("pw"));
+    ASSERT_TRUE(QFile::remove(folder.file(QStringLiteral("Options/FTP/Old.TLS"))));
+    for (const auto& [name, text] : {std::pair{"Site", "TLS required"}, std::pair{"Old", "Plain FTP (not encrypted)"},
+                                     std::pair{"Site", "TLS required"}}) {
+        w->Tree_NodeClick(node(w->Tree, QString::fromLatin1(name)));
+        EXPECT_EQ(w->cboSecurity->currentText(), QString::fromLatin1(text)) << name;
+        u->Tree_NodeClick(node(u->Tree, QString::fromLatin1(name)));
+        EXPECT_EQ(u->cboSecurity->currentText(), QString::fromLatin1(text)) << name;
+    }
+
+    u->Tree_NodeClick(node(u->Tree, QStringLiteral("Site")));
+    prompts.answerMsgBox(Answer::Yes);
+    prompts.answerMsgBox(Answer::OK);
+    u->Command2->click();
+    EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("Options/FTP/Site.TLS"))));
+    EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("Options/FTP/Site.DAT"))));
+    u->Command3->click();
+    u->show();
+    saveShot(u, "ftp-profiles-security");
+    u->hide();
+    w->show();
+    saveShot(w, "ftp-upload-security");
+}
+
+// As a user would: a profile that requires TLS, the certificate question answered once, a
+// queue uploaded over TLS to vsftpd and compared byte for byte; the next connection asks nothing.
+TEST_F(FtpWindowTest, UploadsOverTlsAfterTheCertificateQuestion)
+{
+    FtpServer server{FtpServer::VsftpdTls};
+    QString why;
+    if (!server.start(&why))
+        GTEST_SKIP() << why.toStdString();
+    ftpadvanced::setPortForTesting(server.port());
+    ftpnormal* w = upload();
+    saveProfile(QStringLiteral("Secure"), QStringLiteral("127.0.0.1"), server.user(), server.password());
+    users()->cboSecurity->setCurrentIndex(2);
+    prompts.answerMsgBox(Answer::OK);
+    users()->SmartNetButton2->click();
+    w->Tree_NodeClick(node(w->Tree, QStringLiteral("Secure")));
+    ASSERT_EQ(w->cboSecurity->currentText(), QStringLiteral("TLS required"));
+
+    const QList<QByteArray> bodies = {randomBytes(300000, 7), QByteArray("<p>tls</p>")};
+    const QStringList names = {QStringLiteral("a.bin"), QStringLiteral("b.htm")};
+    for (int i = 0; i < 2; ++i)
+        w->addFile(server.upload(names[i]), localFile(names[i], bodies[i]));
+    whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 20000);  // a stuck login is cut
+    prompts.answerMsgBox(Answer::Yes);
+    w->upload->click();
+    ASSERT_TRUE(advanced()->engine()->isConnected()) << w->Text2->toPlainText().toStdString();
+    EXPECT_TRUE(advanced()->engine()->controlEncrypted());
+    EXPECT_TRUE(advanced()->engine()->dataProtected());
+    EXPECT_EQ(prompts.last().style, 36);
+    EXPECT_EQ(prompts.last().title, velloroTitle);
+    EXPECT_TRUE(prompts.last().text.contains(QStringLiteral("SHA-256 fingerprint:\r") + server.fingerprint()));
+    EXPECT_TRUE(w->Text2->toPlainText().contains(QStringLiteral("200 PROT now Private.")));
+
+    prompts.answerMsgBox(Answer::OK);
+    w->Command2->click();
+    QElapsedTimer t;
+    t.start();
+    while (prompts.pending() > 0 && t.elapsed() < 60000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_TRUE(isBox(prompts.last(), QStringLiteral("Transfer off all files completed"), 64));
+    for (int i = 0; i < 2; ++i) {
+        t.restart();
+        while (server.readFile(server.upload(names[i])) != bodies[i] && t.elapsed() < 10000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        EXPECT_TRUE(server.readFile(server.upload(names[i])) == bodies[i]) << names[i].toStdString();
+    }
+    const int asked = prompts.prompts().size();
+    w->Command1->click();
+    whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 20000);
+    w->upload->click();
+    EXPECT_TRUE(advanced()->engine()->controlEncrypted());
+    EXPECT_EQ(prompts.prompts().size(), asked);  // remembered: not asked again
+    w->Command1->click();
+}
+
+// "TLS required" against a plain-only server: the connection is cut before the login and the
+// user reads why in a box.
+TEST_F(FtpWindowServerTest, TlsRequiredAgainstAPlainServerRefusesWithAMessage)
+{
+    ftpnormal* w = upload();
+    w->cboSecurity->setCurrentIndex(2);
+    whenTrue(w, [] { return false; }, [this] { advanced()->Command5->click(); }, 20000);  // a stuck wait is cut
+    prompts.answerMsgBox(Answer::OK);
+    connectAs(server.user(), server.password());
+    EXPECT_FALSE(advanced()->engine()->isConnected());
+    ASSERT_EQ(prompts.prompts().size(), 1);
+    EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("The server 127.0.0.1 does not offer a secure connection; it answered:\r500 ")))
+        << prompts.last().text.toStdString();
+    EXPECT_TRUE(prompts.last().text.endsWith(QStringLiteral("This connection asks for TLS, so it has been cut and your user name and "
+                                                            "password were not sent.")));
+    EXPECT_EQ(prompts.last().style, 16);
+    EXPECT_EQ(prompts.last().title, velloroTitle);
+    EXPECT_EQ(w->panelText(2), QStringLiteral("Disconnected from Server"));
+    EXPECT_EQ(w->serverShapeColour(), 255);
+    EXPECT_NE(advanced()->cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(advanced()->engine()->activeWaits(), 0);
+}
