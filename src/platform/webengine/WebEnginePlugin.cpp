@@ -2,6 +2,7 @@
 #include "platform/BrowserEngine.h"
 
 #include <QEventLoop>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QObject>
@@ -10,7 +11,6 @@
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineView>
-#include <memory>
 #include <optional>
 
 namespace {
@@ -59,6 +59,7 @@ public:
     explicit WebEngineView(QWidget* parent) : view(new QWebEngineView(parent))
     {
         view->setObjectName(QStringLiteral("WebEngineView"));
+        living().insert(number, this);
         auto* page = new PreviewPage(view);
         page->picked = [this](const QString& tag, int index, const QString& text, int offset) {
             if (onSourcePick)
@@ -92,6 +93,7 @@ public:
     // after that must not reach the wrapper.
     ~WebEngineView() override
     {
+        living().remove(number);
         QObject::disconnect(hovered);
         QObject::disconnect(loaded);
     }
@@ -112,15 +114,9 @@ public:
         if (asking)
             return;
         view->page()->runJavaScript(QStringLiteral("[window.scrollX, window.scrollY]"),
-                                    [this, alive = std::weak_ptr<bool>(living)](const QVariant& at) {
-                                        if (alive.expired() || !pending)
-                                            return;
-                                        const QVariantList xy = at.toList();
-                                        if (xy.size() == 2 && (xy[0].toDouble() != 0 || xy[1].toDouble() != 0))
-                                            keepPlace = QPointF(xy[0].toDouble(), xy[1].toDouble());
-                                        const QUrl latest = *pending;
-                                        pending.reset();
-                                        view->load(latest);
+                                    [number = number](const QVariant& at) {
+                                        if (WebEngineView* self = living().value(number))
+                                            self->reload(at);
                                     });
     }
     void back() override { view->back(); }
@@ -150,8 +146,31 @@ private:
     std::optional<QPointF> keepPlace;
     // A refresh waiting for the page to say where its reader is.
     std::optional<QUrl> pending;
-    // Gone with this wrapper: a script's answer that arrives later finds it expired.
-    std::shared_ptr<bool> living = std::make_shared<bool>(true);
+    // The wrappers alive, by number: a script's answer that arrives after its wrapper has gone
+    // finds nothing. (A plain table: shared pointers made in this module and the program differ
+    // in their type information.)
+    static QHash<quint64, WebEngineView*>& living()
+    {
+        static QHash<quint64, WebEngineView*> views;
+        return views;
+    }
+    const quint64 number = [] {
+        static quint64 last = 0;
+        return ++last;
+    }();
+
+    // The page said where its reader is: load the latest address asked for, to come back there.
+    void reload(const QVariant& at)
+    {
+        if (!pending)
+            return;
+        const QVariantList xy = at.toList();
+        if (xy.size() == 2 && (xy[0].toDouble() != 0 || xy[1].toDouble() != 0))
+            keepPlace = QPointF(xy[0].toDouble(), xy[1].toDouble());
+        const QUrl latest = *pending;
+        pending.reset();
+        view->load(latest);
+    }
 };
 }
 
