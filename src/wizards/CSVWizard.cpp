@@ -26,7 +26,7 @@ const QString tabFilter = QStringLiteral("Tab Delinited Files (*.txt *.TXT)");
 // would never end), 75 for one that cannot be read; empty when the progress step stopped it.
 // The table in the editor's own form, UTF-8, made from the file read as the editor reads files:
 // a big file is then held once as bytes and once as its table, never as UTF-16.
-QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, QChar separator,
+QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, char separator,
                    const CsvTableText::Progress& progress = {})
 {
     if (path.isEmpty() || !QFileInfo(path).isFile())
@@ -36,7 +36,7 @@ QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, QCh
     if (!ok)
         throw RuntimeError::pathFileAccess();
     const QByteArray text = TextFiles::toEditorText(std::move(bytes));
-    return CsvTableText::fragmentUtf8(fields, text, separator.toLatin1(), progress);
+    return CsvTableText::fragment(fields, text, separator, progress);
 }
 
 QString progressText(const QString& path, int percent)
@@ -92,7 +92,7 @@ CSVWizard::CSVWizard(QWidget* parent) : WizardDialog(QStringLiteral("Table Wizar
 
 CSVWizard::~CSVWizard() { stopBuild(); }
 
-void CSVWizard::insertWith(QChar sep)
+void CSVWizard::insertWith(char sep)
 {
     separator = sep;
     const QString path = txtlocation->text();
@@ -119,7 +119,7 @@ void CSVWizard::buildInBackground(const QString& path)
     job = std::make_shared<Build>();
     auto build = job;
     const CellTableText::Fields fields = style.fields();
-    const QChar sep = separator;
+    const char sep = separator;
     // The window outlives the worker: its destructor stops and waits for it.
     worker = QThread::create([build, path, fields, sep, this] {
         int shown = -1;

@@ -1,8 +1,8 @@
 #pragma once
 #include "wizards/WizardDialog.h"
+#include "wizards/CsvTableText.h"
 #include "wizards/WizardRows.h"
 
-#include <QChar>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -45,7 +45,7 @@ private:
     // active one. False when there was none.
     bool takeSourceFile();
     void setActive(bool comma, bool tab);
-    void insertWith(QChar separator);
+    void insertWith(char separator);
     void buildInBackground(const QString& path);
     void buildFinished();
     void stopBuild();
@@ -57,5 +57,5 @@ private:
     std::optional<QByteArray> prepared;
     std::shared_ptr<RuntimeError> preparedFailure;
     WizardRows::TableStyle style;
-    QChar separator;
+    char separator = CsvTableText::comma;
 };

@@ -12,12 +12,10 @@ struct LineEnd {
     qsizetype next;
 };
 
-// The walk reads UTF-16 (QStringView) or UTF-8 (QByteArrayView) alike.
-template <class View>
-LineEnd lineEnd(View text, qsizetype from)
+LineEnd lineEnd(QByteArrayView text, qsizetype from)
 {
     for (qsizetype i = from; i < text.size(); ++i) {
-        const auto c = text[i];
+        const char c = text[i];
         if (c == '\n')
             return {i, i + 1};
         if (c == '\r')
@@ -28,12 +26,11 @@ LineEnd lineEnd(View text, qsizetype from)
 
 // Tells the progress step how far a pass has come, every so many steps of the walk, so that
 // neither many short lines nor one long line go long without a word.
-template <class View>
 class Pacer {
 public:
-    Pacer(const Progress& step, View text, int pass) : step(step), text(text), pass(pass) {}
+    Pacer(const Progress& step, QByteArrayView text, int pass) : step(step), text(text), pass(pass) {}
     // False once the step has asked to stop.
-    bool at(const typename View::value_type* position)
+    bool at(const char* position)
     {
         if (!step || ++count % 16384 != 0)
             return true;
@@ -43,27 +40,27 @@ public:
 
 private:
     const Progress& step;
-    View text;
+    QByteArrayView text;
     int pass;
     qsizetype count = 0;
 };
 
 // Walks the cells of the table: row() at each line, cell(text) for each cell written. False
 // when the pacer stopped it.
-template <class View, class Char, class Row, class Cell>
-bool walk(View text, Char separator, Pacer<View>& pacer, Row row, Cell cell)
+template <class Row, class Cell>
+bool walk(QByteArrayView text, char separator, Pacer& pacer, Row row, Cell cell)
 {
-    const qsizetype maxCells = text.first(lineEnd(text, 0).end).count(separator) + 2;
+    const qsizetype maxCells = fieldCount(text, separator) + 1;
     for (qsizetype at = 0; at < text.size();) {
         const LineEnd e = lineEnd(text, at);
-        const View line = text.sliced(at, e.end - at);
+        const QByteArrayView line = text.sliced(at, e.end - at);
         if (!pacer.at(line.data()))
             return false;
         row();
         qsizetype written = 0, start = 0;
         while (!line.isEmpty() && written < maxCells) {
             const qsizetype sep = line.indexOf(separator, start);
-            const View c = line.sliced(start, (sep < 0 ? line.size() : sep) - start);
+            const QByteArrayView c = line.sliced(start, (sep < 0 ? line.size() : sep) - start);
             if (!pacer.at(c.data()))
                 return false;
             cell(c);
@@ -78,35 +75,31 @@ bool walk(View text, Char separator, Pacer<View>& pacer, Row row, Cell cell)
 }
 }
 
-qsizetype fieldCount(QStringView text, QChar separator)
+
+qsizetype fieldCount(QByteArrayView text, char separator)
 {
-    const QStringView first = text.left(lineEnd(text, 0).end);
-    return first.count(separator) + 1;
+    return text.first(lineEnd(text, 0).end).count(separator) + 1;
 }
 
-namespace {
-// The table in Out (QString or QByteArray) from View: measured, then built in one piece.
-template <class Out, class View, class Char>
-Out build(const CellTableText::Fields& f, View text, Char separator, const Progress& progress,
-          Out (*convert)(const QString&))
+QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
 {
     using namespace CellTableText;
-    const Out head = convert(openingTag(f, 0)), end = convert(tableEnd + Html::crlf);
-    const Out rowOpen = convert(rowStart), rowClose = convert(rowEnd), cellOpen = convert(cellStart),
-              cellClose = convert(cellEnd);
+    const QByteArray head = openingTag(f, 0).toUtf8(), end = (tableEnd + Html::crlf).toUtf8();
+    const QByteArray rowOpen = rowStart.toUtf8(), rowClose = rowEnd.toUtf8(), cellOpen = cellStart.toUtf8(),
+                     cellClose = cellEnd.toUtf8();
 
     qsizetype size = head.size() + end.size();
-    Pacer<View> measuring(progress, text, 0);
+    Pacer measuring(progress, text, 0);
     if (!walk(
             text, separator, measuring, [&] { size += rowOpen.size() + rowClose.size(); },
-            [&](View c) { size += cellOpen.size() + c.size() + cellClose.size(); }))
+            [&](QByteArrayView c) { size += cellOpen.size() + c.size() + cellClose.size(); }))
         return {};
 
-    Out out;
+    QByteArray out;
     out.reserve(size);
     out += head;
     bool inRow = false;
-    Pacer<View> building(progress, text, 1);
+    Pacer building(progress, text, 1);
     const bool built = walk(
         text, separator, building,
         [&] {
@@ -115,7 +108,7 @@ Out build(const CellTableText::Fields& f, View text, Char separator, const Progr
             out += rowOpen;
             inRow = true;
         },
-        [&](View c) {
+        [&](QByteArrayView c) {
             out += cellOpen;
             out.append(c);
             out += cellClose;
@@ -126,17 +119,6 @@ Out build(const CellTableText::Fields& f, View text, Char separator, const Progr
         out += rowClose;
     out += end;
     return out;
-}
-}
-
-QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress)
-{
-    return build<QString>(f, text, separator, progress, [](const QString& s) { return s; });
-}
-
-QByteArray fragmentUtf8(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
-{
-    return build<QByteArray>(f, text, separator, progress, [](const QString& s) { return s.toUtf8(); });
 }
 
 }

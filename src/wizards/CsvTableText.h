@@ -3,19 +3,18 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QChar>
-#include <QString>
-#include <QStringView>
 #include <functional>
 
-// The table of a comma-separated or tab-delimited text.
+// The table of a comma-separated or tab-delimited text, read and made in UTF-8, the form the
+// editor holds text in (line ends and separators are single bytes there, never part of a
+// longer character), so that a big file is held once as bytes and once as its table.
 namespace CsvTableText {
 
-inline const QChar comma = QLatin1Char(',');
-inline const QChar tab = QLatin1Char('\t');
+constexpr char comma = ',';
+constexpr char tab = '\t';
 
 // F: the separators of the text's first line, plus one (1 for an empty text).
-qsizetype fieldCount(QStringView text, QChar separator);
+qsizetype fieldCount(QByteArrayView text, char separator);
 
 // The opening tag (cell spacing 0), then a row for each line of the text and </table>, and a
 // line end. CR LF, LF and CR each end a line; a last line without an end is a line, and
@@ -26,9 +25,5 @@ qsizetype fieldCount(QStringView text, QChar separator);
 // With a progress step, the build tells now and then how far it has come (0 to 100 over both
 // passes); a step that answers false stops it, and the result is empty.
 using Progress = std::function<bool(int percent)>;
-QString fragment(const CellTableText::Fields& f, QStringView text, QChar separator, const Progress& progress = {});
-// The same table from and in UTF-8 (line ends and separators are single bytes there, never
-// part of a longer character): the form the editor holds text in, for big files.
-QByteArray fragmentUtf8(const CellTableText::Fields& f, QByteArrayView text, char separator,
-                        const Progress& progress = {});
+QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress = {});
 }
