@@ -74,7 +74,15 @@ void FtpEngine::makeDataSocket()
         if (!protectData)
             dataConnected();
     });
-    connect(data, &QSslSocket::encrypted, this, &FtpEngine::dataConnected);
+    // The data connection must come from the server the user trusted: one showing another
+    // certificate than the control connection's is someone else, and gets no file.
+    connect(data, &QSslSocket::encrypted, this, [this] {
+        if (data->peerCertificate() == control->peerCertificate())
+            dataConnected();
+        else
+            dataFailed(winsockErrorNumber(QAbstractSocket::SslHandshakeFailedError),
+                       QStringLiteral("The data connection showed a certificate other than the server's"));
+    });
     // The last encrypted bytes leaving decide when an upload is over.
     connect(data, &QSslSocket::encryptedBytesWritten, this, [this](qint64) { pump(); });
     // A server that hands out session tickets sends one as each data connection's handshake
@@ -402,8 +410,11 @@ void FtpEngine::dataError(int socketError)
             data->disconnectFromHost();
         return;
     }
-    const int number = winsockErrorNumber(socketError);
-    const QString description = data->errorString();
+    dataFailed(winsockErrorNumber(socketError), data->errorString());
+}
+
+void FtpEngine::dataFailed(int number, const QString& description)
+{
     uploading = false;
     Q_EMIT message(QStringLiteral("Error: ") + QString::number(number) + QStringLiteral("\r") + description +
                        QStringLiteral(", Connection Will be cut off."),

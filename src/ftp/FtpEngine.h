@@ -140,6 +140,7 @@ private:
     bool secureControl(const QString& host);
     bool certificateAccepted(const QString& host);
     bool protectDataChannel();
+    void dataFailed(int number, const QString& description);
     void refuse(const QString& text);
 
     QSslSocket* control = nullptr;

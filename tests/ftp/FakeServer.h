@@ -1,16 +1,44 @@
 #pragma once
+#include "FtpServers.h"
+
 #include <QByteArray>
 #include <QHostAddress>
 #include <QList>
+#include <QFile>
 #include <QPointer>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <functional>
 #include <sys/socket.h>
 
+// Accepts every connection as a TLS-capable socket that starts plain, so one listener serves
+// plain FTP and explicit TLS alike.
+class FakeListener : public QTcpServer {
+public:
+    QSslConfiguration tls;
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        auto* s = new QSslSocket(this);
+        if (!s->setSocketDescriptor(descriptor)) {
+            delete s;
+            return;
+        }
+        s->setSslConfiguration(tls);
+        addPendingConnection(s);
+    }
+};
+
 // A scripted FTP peer for behaviours no real server can be told to show: it answers each
 // command line through a handler the test gives, and offers a passive data port of its own.
+// secure() makes it a TLS server as a real one is: AUTH TLS, PBSZ and PROT P, and data
+// connections in TLS once PROT P was given.
 class FakeServer : public QObject {
 public:
     using Handler = std::function<void(const QByteArray& line)>;
@@ -36,16 +64,51 @@ public:
             }
         });
         connect(&dataListener, &QTcpServer::newConnection, this, [this] {
-            while (QTcpSocket* s = dataListener.nextPendingConnection()) {
-                data = s;
-                ++dataConnections;
+            while (auto* s = static_cast<QSslSocket*>(dataListener.nextPendingConnection())) {
                 connect(s, &QTcpSocket::readyRead, this, [this, s] {
                     received += s->readAll();
                     if (onData)
                         onData();
                 });
+                // A protected connection is handed to the test once its handshake is done.
+                const auto ready = [this, s] {
+                    data = s;
+                    ++dataConnections;
+                };
+                if (protectData) {
+                    connect(s, &QSslSocket::encrypted, this, ready);
+                    s->startServerEncryption();
+                } else {
+                    ready();
+                }
             }
         });
+    }
+
+    // Offers TLS with the certificate; the data connections may show another one.
+    bool secure(const TestCertificate& shown, const TestCertificate* onData = nullptr)
+    {
+        const auto configuration = [](const TestCertificate& made) {
+            QFile c(made.certificate), k(made.key);
+            QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+            if (!c.open(QIODevice::ReadOnly) || !k.open(QIODevice::ReadOnly))
+                return tls;
+            tls.setLocalCertificate(QSslCertificate(c.readAll()));
+            tls.setPrivateKey(QSslKey(k.readAll(), QSsl::Rsa));
+            return tls;
+        };
+        control.tls = configuration(shown);
+        dataListener.tls = configuration(onData ? *onData : shown);
+        on("AUTH", [this](const QByteArray&) {
+            send("234 Proceed with negotiation.\r\n");
+            static_cast<QSslSocket*>(client.data())->startServerEncryption();
+        });
+        on("PBSZ", [this](const QByteArray&) { send("200 PBSZ set to 0.\r\n"); });
+        on("PROT", [this](const QByteArray& line) {
+            protectData = line == "PROT P";
+            send("200 PROT now " + QByteArray(protectData ? "Private" : "Clear") + ".\r\n");
+        });
+        return !control.tls.localCertificate().isNull() && !control.tls.privateKey().isNull();
     }
 
     quint16 port() const { return control.serverPort(); }
@@ -129,8 +192,9 @@ private:
                 }
         }
     }
-    QTcpServer control;
-    QTcpServer dataListener;
+    FakeListener control;
+    FakeListener dataListener;
+    bool protectData = false;
     QTimer dribbler;
     QByteArray trickle;
     QByteArray pending;

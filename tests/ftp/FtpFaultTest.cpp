@@ -1,8 +1,11 @@
 // The engine against a scripted peer that misbehaves: in every case the program keeps running,
-// the user is freed by cutting the connection, and no wait is left on the stack.
+// the user is freed by cutting the connection, and no wait is left on the stack. What happens
+// after the login runs twice: over plain FTP and over explicit TLS with protected data
+// connections.
 #include "EngineHarness.h"
 #include "FakeServer.h"
 #include "FtpServers.h"
+#include "platform/App.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +21,8 @@ class EngineFaults : public ::testing::Test {
 protected:
     void SetUp() override
     {
+        // The certificate answer is kept in the application folder.
+        App::setPathForTesting(appFolder.path());
         engine.setPort(fake.port());
         QObject::connect(&engine, &FtpEngine::retrieved, [this](const QString& f) { shown << f; });
     }
@@ -34,9 +39,18 @@ protected:
     void login()
     {
         fake.standardLogin();
+        if (tls) {
+            QString why;
+            const TestCertificate* made = sharedCertificate(0, &why);
+            ASSERT_TRUE(made) << why.toStdString();
+            ASSERT_TRUE(fake.secure(*made));
+            engine.setSecurity(FtpSecurity::Required);
+            engine.setTrustQuestion([](const QString&) { return true; });
+        }
         CutWhen guard(engine, nullptr, 10000);
         ASSERT_TRUE(engine.FtpConnect(host, QStringLiteral("u"), QStringLiteral("p")));
         ASSERT_FALSE(guard.timedOut);
+        ASSERT_EQ(engine.dataProtected(), tls);
     }
     // One transfer on the data connection as a server makes it: the opening reply, the bytes
     // once the client has connected, the close, then what the server says at the end.
@@ -65,11 +79,23 @@ protected:
         return path;
     }
 
+    QTemporaryDir appFolder;
     FakeServer fake;
     FtpEngine engine;
     EngineRecorder rec{engine};
     QTemporaryDir dir;
     QStringList shown;
+    bool tls = false;
+};
+
+// The faults after the login, once over plain FTP and once over TLS.
+class AfterLogin : public EngineFaults, public ::testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override
+    {
+        tls = GetParam();
+        EngineFaults::SetUp();
+    }
 };
 }
 
@@ -203,7 +229,7 @@ TEST_F(EngineFaults, ARefusedConnectionShowsTheErrorAndEndsTheWait)
     EXPECT_TRUE(rec.downs.last());
 }
 
-TEST_F(EngineFaults, Reply421InTheMiddleOfACommandWithTheCloseEndsTheSend)
+TEST_P(AfterLogin, Reply421InTheMiddleOfACommandWithTheCloseEndsTheSend)
 {
     login();
     fake.on("TYPE", [this](const QByteArray&) {
@@ -218,7 +244,7 @@ TEST_F(EngineFaults, Reply421InTheMiddleOfACommandWithTheCloseEndsTheSend)
     EXPECT_EQ(rec.status, QStringLiteral("Disconnected from Server"));
 }
 
-TEST_F(EngineFaults, Reply421WithoutACloseIsLoggedAndTheUserCuts)
+TEST_P(AfterLogin, Reply421WithoutACloseIsLoggedAndTheUserCuts)
 {
     login();
     fake.on("TYPE", [this](const QByteArray&) { fake.send("421 Too busy\r\n"); });
@@ -228,7 +254,7 @@ TEST_F(EngineFaults, Reply421WithoutACloseIsLoggedAndTheUserCuts)
     EXPECT_FALSE(seen("PASV"));
 }
 
-TEST_F(EngineFaults, MalformedPassiveRepliesAreRunTimeErrorsAndNoDataConnection)
+TEST_P(AfterLogin, MalformedPassiveRepliesAreRunTimeErrorsAndNoDataConnection)
 {
     const struct { const char* line; int error; } cases[] = {
         {"227 Entering Passive Mode 127,0,0,1,4,1\r\n", 9},  // no brackets
@@ -255,7 +281,7 @@ TEST_F(EngineFaults, MalformedPassiveRepliesAreRunTimeErrorsAndNoDataConnection)
     }
 }
 
-TEST_F(EngineFaults, APassiveReplyNamingAnotherHostStillConnectsToThePeer)
+TEST_P(AfterLogin, APassiveReplyNamingAnotherHostStillConnectsToThePeer)
 {
     login();
     fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv("10,99,88,77")); });
@@ -270,7 +296,7 @@ TEST_F(EngineFaults, APassiveReplyNamingAnotherHostStillConnectsToThePeer)
     EXPECT_TRUE(rec.errors.isEmpty());
 }
 
-TEST_F(EngineFaults, OneFiftyAndThenNoDataConnection)
+TEST_P(AfterLogin, OneFiftyAndThenNoDataConnection)
 {
     login();
     const quint16 nobody = freePort();
@@ -289,7 +315,7 @@ TEST_F(EngineFaults, OneFiftyAndThenNoDataConnection)
     EXPECT_EQ(rec.completes, 0);
 }
 
-TEST_F(EngineFaults, ADownloadCutShortKeepsWhatCameAndShowsTheFolder)
+TEST_P(AfterLogin, ADownloadCutShortKeepsWhatCameAndShowsTheFolder)
 {
     QFile::remove(FtpEngine::downloadPath());
     login();
@@ -320,7 +346,7 @@ void scriptStor(FakeServer& fake)
 }
 }
 
-TEST_F(EngineFaults, TheServerClosingTheDataConnectionMidUploadStopsIt)
+TEST_P(AfterLogin, TheServerClosingTheDataConnectionMidUploadStopsIt)
 {
     login();
     scriptStor(fake);
@@ -337,7 +363,7 @@ TEST_F(EngineFaults, TheServerClosingTheDataConnectionMidUploadStopsIt)
     EXPECT_LT(fake.received.size(), 64 << 20);
 }
 
-TEST_F(EngineFaults, AResetInTheMiddleOfAnUploadStopsIt)
+TEST_P(AfterLogin, AResetInTheMiddleOfAnUploadStopsIt)
 {
     login();
     scriptStor(fake);
@@ -354,7 +380,7 @@ TEST_F(EngineFaults, AResetInTheMiddleOfAnUploadStopsIt)
     EXPECT_FALSE(engine.isConnected());
 }
 
-TEST_F(EngineFaults, TheControlConnectionClosedMidUploadEndsEverything)
+TEST_P(AfterLogin, TheControlConnectionClosedMidUploadEndsEverything)
 {
     login();
     scriptStor(fake);
@@ -370,7 +396,7 @@ TEST_F(EngineFaults, TheControlConnectionClosedMidUploadEndsEverything)
     EXPECT_EQ(rec.status, QStringLiteral("Disconnected from Server"));
 }
 
-TEST_F(EngineFaults, AnEmptySourceIsFileNeededAndNothingOnTheWire)
+TEST_P(AfterLogin, AnEmptySourceIsFileNeededAndNothingOnTheWire)
 {
     login();
     const qsizetype before = fake.lines.size();
@@ -416,7 +442,7 @@ TEST_F(EngineFaults, ANewConnectEndsTheOldWaitBelowIt)
     EXPECT_TRUE(engine.isConnected());
 }
 
-TEST_F(EngineFaults, AListingCharacterCutBetweenTwoArrivalsStaysOneCharacter)
+TEST_P(AfterLogin, AListingCharacterCutBetweenTwoArrivalsStaysOneCharacter)
 {
     login();
     fake.on("PASV", [this](const QByteArray&) { fake.send(fake.pasv()); });
@@ -439,7 +465,7 @@ TEST_F(EngineFaults, AListingCharacterCutBetweenTwoArrivalsStaysOneCharacter)
     EXPECT_EQ(rec.listing, QStringLiteral("caf\u00e9.htm\r\n"));
 }
 
-TEST_F(EngineFaults, ALineBreakInAFileNameStartsNoCommandOfItsOwn)
+TEST_P(AfterLogin, ALineBreakInAFileNameStartsNoCommandOfItsOwn)
 {
     login();
     scriptStor(fake);
@@ -474,7 +500,7 @@ TEST(DownloadFolder, TempWhenSetElseAFolderOfTheUsersOwn)
     EXPECT_NE(own.absoluteFilePath(), QFileInfo(QDir::tempPath()).absoluteFilePath());
 }
 
-TEST_F(EngineFaults, TheAwaitedReplyIsSeenEvenWithAnotherLineBehindItInTheSameArrival)
+TEST_P(AfterLogin, TheAwaitedReplyIsSeenEvenWithAnotherLineBehindItInTheSameArrival)
 {
     QFile::remove(FtpEngine::downloadPath());
     login();
@@ -490,3 +516,6 @@ TEST_F(EngineFaults, TheAwaitedReplyIsSeenEvenWithAnotherLineBehindItInTheSameAr
     EXPECT_EQ(engine.activeWaits(), 0);
     QFile::remove(FtpEngine::downloadPath());
 }
+
+INSTANTIATE_TEST_SUITE_P(PlainAndTls, AfterLogin, ::testing::Bool(),
+                         [](const ::testing::TestParamInfo<bool>& info) { return info.param ? "Tls" : "Plain"; });

@@ -7,6 +7,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
+#include <map>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -54,7 +55,7 @@ QString FtpServer::upload(const QString& name) const
     return kind == Pyftpdlib ? name : QStringLiteral("incoming/") + name;
 }
 
-bool FtpServer::makeCertificate(QString* why)
+bool makeCertificate(const QString& folder, TestCertificate* made, QString* why)
 {
     const auto run = [&](const QStringList& args, QByteArray* out) {
         QProcess p;
@@ -66,19 +67,33 @@ bool FtpServer::makeCertificate(QString* why)
             *why = QStringLiteral("openssl failed (scripts/install-deps installs it): ") + QString::fromLocal8Bit(p.readAllStandardError());
         return ok;
     };
-    const QString cert = dir.path() + QStringLiteral("/cert.pem");
+    made->certificate = folder + QStringLiteral("/cert.pem");
+    made->key = folder + QStringLiteral("/key.pem");
     QByteArray out;
     if (!run({QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"), QStringLiteral("rsa:2048"), QStringLiteral("-nodes"),
-              QStringLiteral("-keyout"), dir.path() + QStringLiteral("/key.pem"), QStringLiteral("-out"), cert, QStringLiteral("-days"),
+              QStringLiteral("-keyout"), made->key, QStringLiteral("-out"), made->certificate, QStringLiteral("-days"),
               QStringLiteral("2"), QStringLiteral("-subj"), QStringLiteral("/CN=127.0.0.1")},
              nullptr) ||
         !run({QStringLiteral("x509"), QStringLiteral("-noout"), QStringLiteral("-fingerprint"), QStringLiteral("-sha256"),
-              QStringLiteral("-in"), cert},
+              QStringLiteral("-in"), made->certificate},
              &out))
         return false;
     // "sha256 Fingerprint=AB:CD:..."
-    certificateFingerprint = QString::fromLatin1(out).section(QLatin1Char('='), 1).trimmed();
+    made->fingerprint = QString::fromLatin1(out).section(QLatin1Char('='), 1).trimmed();
     return true;
+}
+
+const TestCertificate* sharedCertificate(int which, QString* why)
+{
+    static QTemporaryDir folder;
+    static std::map<int, TestCertificate> made;
+    if (const auto it = made.find(which); it != made.end())
+        return &it->second;
+    const QString sub = folder.path() + QLatin1Char('/') + QString::number(which);
+    TestCertificate c;
+    if (!QDir().mkpath(sub) || !makeCertificate(sub, &c, why))
+        return nullptr;
+    return &made.emplace(which, c).first->second;
 }
 
 QString FtpServer::root() const { return dir.path() + QStringLiteral("/root"); }
@@ -147,7 +162,7 @@ bool FtpServer::start(QString* why)
         if (getuid() != 0)
             conf += QStringLiteral("run_as_launching_user=YES\n");
         if (kind == VsftpdTls) {
-            if (!makeCertificate(why))
+            if (!makeCertificate(dir.path(), &certificate, why))
                 return false;
             conf += QStringLiteral("ssl_enable=YES\nallow_anon_ssl=YES\nrsa_cert_file=%1/cert.pem\nrsa_private_key_file=%1/key.pem\n")
                         .arg(dir.path());

@@ -7,6 +7,18 @@
 
 // Real FTP servers for the tests, each started on 127.0.0.1 at a free port with a throw-away
 // folder, and stopped (by its own process id) when the object goes.
+// A self-signed certificate for 127.0.0.1, made with openssl: the files and the SHA-256
+// fingerprint as openssl prints it ("AB:CD:...").
+struct TestCertificate {
+    QString certificate;
+    QString key;
+    QString fingerprint;
+};
+// Makes one in the folder; false with the reason when openssl failed.
+bool makeCertificate(const QString& folder, TestCertificate* made, QString* why);
+// Certificates made once per test program and kept to its end; each number is another one.
+const TestCertificate* sharedCertificate(int which, QString* why);
+
 class FtpServer {
 public:
     // VsftpdTls: vsftpd with ssl_enable=YES and a self-signed certificate that start() makes
@@ -28,8 +40,8 @@ public:
     // The remote name an upload of this name goes to (vsftpd takes uploads below its root).
     QString upload(const QString& name) const;
     QString name() const { return kind == Pyftpdlib ? QStringLiteral("pyftpdlib") : QStringLiteral("vsftpd"); }
-    // The certificate's SHA-256 fingerprint as openssl prints it ("AB:CD:..."); TLS only.
-    QString fingerprint() const { return certificateFingerprint; }
+    // The certificate's fingerprint; TLS only.
+    QString fingerprint() const { return certificate.fingerprint; }
     QByteArray readFile(const QString& name) const;
     void writeFile(const QString& name, const QByteArray& bytes) const;
     // What the server printed (for failure messages).
@@ -40,8 +52,7 @@ private:
     QTemporaryDir dir;
     QProcess process;
     quint16 serverPort = 0;
-    QString certificateFingerprint;
-    bool makeCertificate(QString* why);
+    TestCertificate certificate;
 };
 
 // A port nothing listens on right now.

@@ -218,3 +218,94 @@ TEST_F(TlsTest, TheTrustFileKeepsOtherHosts)
     EXPECT_EQ(FtpTrust::lookUp(QStringLiteral("b.example")).answer, FtpTrust::Answer::Refused);
     EXPECT_EQ(FtpTrust::lookUp(QStringLiteral("c.example")).answer, FtpTrust::Answer::None);
 }
+
+namespace {
+// A scripted TLS peer with the usual login; the data connections may show another certificate.
+void secureFake(FakeServer& fake, int dataCertificate = 0)
+{
+    QString why;
+    const TestCertificate* shown = sharedCertificate(0, &why);
+    const TestCertificate* onData = sharedCertificate(dataCertificate, &why);
+    ASSERT_TRUE(shown && onData) << why.toStdString();
+    fake.standardLogin();
+    ASSERT_TRUE(fake.secure(*shown, onData));
+}
+}
+
+// A server that takes AUTH TLS but will not protect the data connections: "TLS required" cuts
+// with the server's answer, "TLS if offered" lists the folder over a plain data connection.
+TEST_F(TlsTest, AServerRefusingProtPIsCutWhenRequiredAndListsInTheClearWhenOffered)
+{
+    for (const FtpSecurity security : {FtpSecurity::Required, FtpSecurity::IfOffered}) {
+        const bool required = security == FtpSecurity::Required;
+        FakeServer fake;
+        secureFake(fake);
+        fake.on("PROT", [&fake](const QByteArray&) { fake.send("536 PROT P not supported here.\r\n"); });
+        fake.on("PASV", [&fake](const QByteArray&) { fake.send(fake.pasv()); });
+        fake.on("LIST", [&fake](const QByteArray&) {
+            fake.send("150 Here it comes\r\n");
+            spinUntil([&fake] { return fake.data != nullptr; }, 5000);
+            fake.data->write("-rw-r--r-- 1 u g 5 Jan 1 00:00 page.htm\r\n");
+            fake.data->disconnectFromHost();
+            fake.send("226 Done\r\n");
+        });
+        rec.messages.clear();
+        rec.listing.clear();
+        engine.setSecurity(security);
+        EXPECT_EQ(connectTo(fake.port(), QStringLiteral("u"), QStringLiteral("p")), !required);
+        EXPECT_TRUE(engine.controlEncrypted() || required);
+        EXPECT_FALSE(engine.dataProtected());
+        if (required) {
+            EXPECT_FALSE(engine.isConnected());
+            ASSERT_EQ(rec.messages.size(), 1);
+            EXPECT_EQ(rec.messages[0], QStringLiteral("The server 127.0.0.1 would not protect the transfers of files; it answered:\r"
+                                                      "536 PROT P not supported here.\r\rThis connection asks for TLS, so it has "
+                                                      "been cut.|16|") +
+                                           title);
+            EXPECT_FALSE(fake.lines.contains(QByteArray("PASV")));
+            continue;
+        }
+        EXPECT_TRUE(rec.messages.isEmpty());
+        CutWhen guard(engine, nullptr, 10000);
+        engine.ViewFiles();
+        EXPECT_FALSE(guard.timedOut);
+        EXPECT_TRUE(spinUntil([this] { return rec.listing.contains(QStringLiteral("page.htm")); }));
+        EXPECT_EQ(fake.dataConnections, 1);
+        engine.FtpDisconnect();
+    }
+}
+
+// A data connection that shows another certificate than the server the user trusted is
+// someone else: it gets no byte of the file, and the user is told.
+TEST_F(TlsTest, ADataConnectionWithAnotherCertificateGetsNothing)
+{
+    FakeServer fake;
+    secureFake(fake, 1);
+    fake.on("TYPE", [&fake](const QByteArray&) { fake.send("200 Binary\r\n"); });
+    fake.on("PASV", [&fake](const QByteArray&) { fake.send(fake.pasv()); });
+    fake.on("STOR", [&fake](const QByteArray&) { fake.send("150 Ok to send data.\r\n"); });
+    engine.setSecurity(FtpSecurity::Required);
+    ASSERT_TRUE(connectTo(fake.port(), QStringLiteral("u"), QStringLiteral("p")));
+    ASSERT_TRUE(engine.dataProtected());
+    EXPECT_EQ(questions.size(), 1);
+    QTemporaryDir dir;
+    const QString source = dir.path() + QStringLiteral("/secret.txt");
+    QFile f(source);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("the user's page");
+    f.close();
+    rec.messages.clear();
+    {
+        CutWhen cut(engine, [this] { return !rec.dataErrors.isEmpty(); });
+        engine.SendFile(source, QStringLiteral("secret.txt"));
+        EXPECT_TRUE(cut.cut());
+    }
+    EXPECT_EQ(rec.dataErrors, QList<int>{10000});
+    ASSERT_EQ(rec.messages.size(), 1);
+    EXPECT_EQ(rec.messages[0], QStringLiteral("Error: 10000\rThe data connection showed a certificate other than the server's, "
+                                              "Connection Will be cut off.|0|Winsock2 Error:"));
+    spinUntil([] { return false; }, 200);
+    EXPECT_EQ(fake.received, QByteArray());
+    EXPECT_EQ(rec.completes, 0);
+    EXPECT_EQ(questions.size(), 1) << "the data connection asks nothing of its own";
+}
