@@ -143,11 +143,11 @@ void hundredThousandLinesParts(benchmark::State& state)
         resetPeak();
         QFile file(path);
         file.open(QIODevice::ReadOnly);
-        QByteArray table = CsvTableText::fragment({}, TextFiles::toEditorText(file.readAll()), CsvTableText::comma);
+        TextPieces table = CsvTableText::pieces({}, TextFiles::toEditorText(file.readAll()), CsvTableText::comma);
         buildKB = std::max(buildKB, residentKB("VmHWM:") - idle);
         idle = residentKB("VmRSS:");
         resetPeak();
-        editor->setSelUtf8(table);
+        editor->setSelPieces(std::move(table));
         insertKB = std::max(insertKB, residentKB("VmHWM:") - idle);
     }
     state.counters["table_MB"] = static_cast<double>(editor->length()) / 1e6;
@@ -176,9 +176,9 @@ void builder(benchmark::State& state, const QByteArray& text)
 {
     qsizetype size = 0;
     for (auto _ : state) {
-        const QByteArray table = CsvTableText::fragment({}, text, CsvTableText::comma);
-        size = table.size();
-        benchmark::DoNotOptimize(table.constData());
+        const TextPieces table = CsvTableText::pieces({}, text, CsvTableText::comma);
+        size = Pieces::totalSize(table);
+        benchmark::DoNotOptimize(table.data());
     }
     state.counters["input_MB"] = static_cast<double>(text.size()) / 1e6;
     state.counters["output_MB"] = static_cast<double>(size) / 1e6;

@@ -14,9 +14,9 @@ void InsertAtCaret(const QString& text)
     ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
 }
 
-void InsertAtCaret(const QByteArray& utf8)
+void InsertAtCaret(TextPieces&& utf8)
 {
-    ActiveDocument()->CodeMax1()->setSelUtf8(utf8);
+    ActiveDocument()->CodeMax1()->setSelPieces(std::move(utf8));
     ActiveDocument()->CodeMax1()->ExecuteCmd(CodeMax::CollapseRight);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
-#include <QByteArray>
 #include <QString>
 
+#include "platform/TextPieces.h"
 #include "services/Workspace.h"
 
 // How tools deliver text to the active document. Each call reads the active document anew;
@@ -13,7 +13,7 @@ bool ActiveIsNotepad();
 // The insertion rule: the text replaces the selection, then the caret goes behind it.
 void InsertAtCaret(const QString& text);
 // The same for text already in the editor's form, UTF-8.
-void InsertAtCaret(const QByteArray& utf8);
+void InsertAtCaret(TextPieces&& utf8);
 // The form group's insertion: the text replaces the selection and stays selected.
 void InsertSelected(const QString& text);
 

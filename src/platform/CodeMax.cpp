@@ -66,6 +66,19 @@ void installPlainAccessible()
 
 // Notices of changes about to be made, and nothing else: no notice after a change reaches
 // QScintilla's handlers.
+// The length of the UTF-8 bytes without a character left unfinished at their end.
+qsizetype wholeCharacters(QByteArrayView bytes)
+{
+    for (qsizetype back = 1; back <= 4 && back <= bytes.size(); ++back) {
+        const auto c = static_cast<uchar>(bytes[bytes.size() - back]);
+        if ((c & 0xC0) == 0x80)
+            continue;  // a continuation byte: its lead is further back
+        const qsizetype length = c >= 0xF0 ? 4 : c >= 0xE0 ? 3 : c >= 0xC0 ? 2 : 1;
+        return length > back ? bytes.size() - back : bytes.size();
+    }
+    return bytes.size();
+}
+
 constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
 
 
@@ -210,6 +223,10 @@ void CodeMax::setSelUtf8(const QByteArray& bytes)
     // caret then stands behind the text, as it will when the macro plays. A text with a NUL
     // goes in by its length instead, which no macro records.
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
+    // QScintilla copies the text of every notice after a change; for a big insertion only the
+    // notices before it are heard, which carry no copy, and the count follows at changeDone.
+    if (bytes.size() > quietAbove)
+        setQuiet(true);
     if (bytes.contains('\0')) {
         SendScintilla(SCI_TARGETFROMSELECTION);
         SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
@@ -217,6 +234,35 @@ void CodeMax::setSelUtf8(const QByteArray& bytes)
         SendScintilla(SCI_REPLACESEL, 0UL, bytes.constData());
     }
     SendScintilla(SCI_SETSEL, start, start + static_cast<long>(bytes.size()));
+    changeDone();
+}
+
+void CodeMax::setSelPieces(TextPieces&& pieces)
+{
+    const qsizetype total = Pieces::totalSize(pieces);
+    const long start = SendScintilla(SCI_GETSELECTIONSTART);
+    // Heard only before each piece, which spares QScintilla's copy of it in the notices after.
+    setQuiet(true);
+    // Room for the whole text first: a buffer grown piece by piece is copied whole at each step.
+    const long kept = SendScintilla(SCI_GETLENGTH) - (SendScintilla(SCI_GETSELECTIONEND) - start);
+    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 16 + 4096));
+    SendScintilla(SCI_BEGINUNDOACTION);
+    SendScintilla(SCI_REPLACESEL, 0UL, "");
+    // Each piece goes in as whole characters, an unfinished one at its end with the next:
+    // the characters are counted, and later undone, piece by piece.
+    QByteArray carry;
+    for (QByteArray& piece : pieces) {
+        if (!carry.isEmpty())
+            piece.prepend(std::exchange(carry, QByteArray()));
+        const qsizetype whole = wholeCharacters(piece);
+        carry = piece.sliced(whole);
+        SendScintilla(SCI_ADDTEXT, static_cast<unsigned long>(whole), piece.constData());
+        piece = QByteArray();
+    }
+    if (!carry.isEmpty())
+        SendScintilla(SCI_ADDTEXT, static_cast<unsigned long>(carry.size()), carry.constData());
+    SendScintilla(SCI_ENDUNDOACTION);
+    SendScintilla(SCI_SETSEL, start, start + static_cast<long>(total));
     changeDone();
 }
 

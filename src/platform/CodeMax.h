@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/TextPieces.h"
+
 #include <Qsci/qsciscintilla.h>
 
 #include <QHash>
@@ -45,6 +47,9 @@ public:
     // The same with text already in the editor's own form, UTF-8 (a big table made that way
     // goes in without a second copy).
     void setSelUtf8(const QByteArray& bytes);
+    // The same for a text in pieces, each freed once the editor holds it: a big text is never
+    // held twice beside the editor's own copies. One change and one step to undo.
+    void setSelPieces(TextPieces&& pieces);
     int SelLength() const;
     int TextLength() const;   // in characters
     // The text as the file holds it, straight from the editor's buffer.

@@ -26,7 +26,7 @@ const QString tabFilter = QStringLiteral("Tab Delinited Files (*.txt *.TXT)");
 // would never end), 75 for one that cannot be read; empty when the progress step stopped it.
 // The table in the editor's own form, UTF-8, made from the file read as the editor reads files:
 // a big file is then held once as bytes and once as its table, never as UTF-16.
-QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, char separator,
+TextPieces tableOf(const QString& path, const CellTableText::Fields& fields, char separator,
                    const CsvTableText::Progress& progress = {})
 {
     if (path.isEmpty() || !QFileInfo(path).isFile())
@@ -36,7 +36,7 @@ QByteArray tableOf(const QString& path, const CellTableText::Fields& fields, cha
     if (!ok)
         throw RuntimeError::pathFileAccess();
     const QByteArray text = TextFiles::toEditorText(std::move(bytes));
-    return CsvTableText::fragment(fields, text, separator, progress);
+    return CsvTableText::pieces(fields, text, separator, progress);
 }
 
 QString progressText(const QString& path, int percent)
@@ -50,7 +50,7 @@ QString progressText(const QString& path, int percent)
 // What the worker thread and the window share: the stop request and the outcome.
 struct CSVWizard::Build {
     std::atomic<bool> stop = false;
-    QByteArray table;
+    TextPieces table;
     std::shared_ptr<RuntimeError> failure;
 };
 
@@ -103,12 +103,12 @@ void CSVWizard::insertWith(char sep)
         Insert();
 }
 
-std::optional<QByteArray> CSVWizard::utf8Fragment() const
+std::optional<TextPieces> CSVWizard::takeUtf8Pieces()
 {
     if (preparedFailure)
         throw *preparedFailure;
     if (prepared)
-        return *prepared;
+        return std::exchange(prepared, std::nullopt);
     return tableOf(txtlocation->text(), style.fields(), separator);
 }
 

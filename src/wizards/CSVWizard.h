@@ -35,7 +35,7 @@ public:
     QPushButton *Command1 = nullptr, *Command2 = nullptr, *Command3 = nullptr, *Command4 = nullptr, *Command6 = nullptr;
 
 protected:
-    std::optional<QByteArray> utf8Fragment() const override;
+    std::optional<TextPieces> takeUtf8Pieces() override;
     bool event(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
     void hideEvent(QHideEvent* e) override;
@@ -54,7 +54,7 @@ private:
     QThread* worker = nullptr;
     std::pair<bool, bool> activeBefore;  // the comma and the tab button
     // The table a finished background build made (or the failure it met), for the insert flow.
-    std::optional<QByteArray> prepared;
+    std::optional<TextPieces> prepared;
     std::shared_ptr<RuntimeError> preparedFailure;
     WizardRows::TableStyle style;
     char separator = CsvTableText::comma;

@@ -24,25 +24,50 @@ LineEnd lineEnd(QByteArrayView text, qsizetype from)
     return {text.size(), text.size()};
 }
 
-// Tells the progress step how far a pass has come, every so many steps of the walk, so that
-// neither many short lines nor one long line go long without a word.
+// Tells the progress step how far the walk has come, every so many steps, so that neither
+// many short lines nor one long line go long without a word.
 class Pacer {
 public:
-    Pacer(const Progress& step, QByteArrayView text, int pass) : step(step), text(text), pass(pass) {}
+    Pacer(const Progress& step, QByteArrayView text) : step(step), text(text) {}
     // False once the step has asked to stop.
     bool at(const char* position)
     {
         if (!step || ++count % 16384 != 0)
             return true;
-        const qsizetype done = text.isEmpty() ? 0 : (position - text.data()) * 50 / text.size();
-        return step(static_cast<int>(pass * 50 + done));
+        return step(text.isEmpty() ? 0 : static_cast<int>((position - text.data()) * 100 / text.size()));
     }
 
 private:
     const Progress& step;
     QByteArrayView text;
-    int pass;
     qsizetype count = 0;
+};
+
+// Collects the table in pieces of about the aimed size. A piece is cut before a part that
+// would not fit, so no piece is ever grown and copied; a part bigger than a piece (one huge
+// cell) gets a piece of its own size.
+class PieceWriter {
+public:
+    void add(QByteArrayView a, QByteArrayView b = {}, QByteArrayView c = {})
+    {
+        const qsizetype need = a.size() + b.size() + c.size();
+        if (piece.size() + need > piece.capacity()) {
+            if (!piece.isEmpty())
+                out.push_back(std::exchange(piece, QByteArray()));
+            piece.reserve(std::max(need, Pieces::aimedSize));
+        }
+        piece.append(a).append(b).append(c);
+    }
+    TextPieces finish()
+    {
+        if (!piece.isEmpty())
+            out.push_back(std::exchange(piece, QByteArray()));
+        return std::move(out);
+    }
+
+private:
+    TextPieces out;
+    QByteArray piece;
 };
 
 // Walks the cells of the table: row() at each line, cell(text) for each cell written. False
@@ -81,44 +106,32 @@ qsizetype fieldCount(QByteArrayView text, char separator)
     return text.first(lineEnd(text, 0).end).count(separator) + 1;
 }
 
-QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
+TextPieces pieces(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
 {
     using namespace CellTableText;
     const QByteArray head = openingTag(f, 0).toUtf8(), end = (tableEnd + Html::crlf).toUtf8();
     const QByteArray rowOpen = rowStart.toUtf8(), rowClose = rowEnd.toUtf8(), cellOpen = cellStart.toUtf8(),
                      cellClose = cellEnd.toUtf8();
-
-    qsizetype size = head.size() + end.size();
-    Pacer measuring(progress, text, 0);
-    if (!walk(
-            text, separator, measuring, [&] { size += rowOpen.size() + rowClose.size(); },
-            [&](QByteArrayView c) { size += cellOpen.size() + c.size() + cellClose.size(); }))
-        return {};
-
-    QByteArray out;
-    out.reserve(size);
-    out += head;
+    PieceWriter out;
+    out.add(head);
     bool inRow = false;
-    Pacer building(progress, text, 1);
+    Pacer pacer(progress, text);
     const bool built = walk(
-        text, separator, building,
+        text, separator, pacer,
         [&] {
-            if (inRow)
-                out += rowClose;
-            out += rowOpen;
+            out.add(inRow ? QByteArrayView(rowClose) : QByteArrayView(), rowOpen);
             inRow = true;
         },
-        [&](QByteArrayView c) {
-            out += cellOpen;
-            out.append(c);
-            out += cellClose;
-        });
+        [&](QByteArrayView c) { out.add(cellOpen, c, cellClose); });
     if (!built)
         return {};
-    if (inRow)
-        out += rowClose;
-    out += end;
-    return out;
+    out.add(inRow ? QByteArrayView(rowClose) : QByteArrayView(), end);
+    return out.finish();
+}
+
+QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
+{
+    return Pieces::joined(pieces(f, text, separator, progress));
 }
 
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/TextPieces.h"
 #include "wizards/CellTableText.h"
 
 #include <QByteArray>
@@ -20,10 +21,13 @@ qsizetype fieldCount(QByteArrayView text, char separator);
 // line end. CR LF, LF and CR each end a line; a last line without an end is a line, and
 // nothing follows the text's last line end. A line is split at every separator (quotes mean
 // nothing; an empty line has no fields) and gives at most F + 1 of its fields as cells, with
-// no padding. Linear in the text: the result is measured first and built in one piece.
+// no padding. Linear in the text, in one pass, made in pieces of about Pieces::aimedSize that
+// the editor takes one by one.
 //
-// With a progress step, the build tells now and then how far it has come (0 to 100 over both
-// passes); a step that answers false stops it, and the result is empty.
+// With a progress step, the build tells now and then how far it has come (0 to 100); a step
+// that answers false stops it, and the result is empty.
 using Progress = std::function<bool(int percent)>;
+TextPieces pieces(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress = {});
+// The same table in one piece.
 QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress = {});
 }

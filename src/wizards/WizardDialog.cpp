@@ -45,8 +45,8 @@ void WizardDialog::Insert()
         } else {
             beforeDelivery();
             const bool selected = delivery() == Delivery::Selected;
-            if (const std::optional<QByteArray> utf8 = utf8Fragment())
-                InsertAtCaret(*utf8);
+            if (std::optional<TextPieces> utf8 = takeUtf8Pieces())
+                InsertAtCaret(std::move(*utf8));
             else
                 for (const QString& piece : fragments())
                     selected ? InsertSelected(piece) : InsertAtCaret(piece);

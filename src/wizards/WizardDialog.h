@@ -1,6 +1,7 @@
 #pragma once
 #include <optional>
 #include "platform/Forms.h"
+#include "platform/TextPieces.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -43,9 +44,10 @@ protected:
     // each step, and each goes in by the insertion rule.
     virtual QString fragment() const { return {}; }
     virtual QStringList fragments() const { return {fragment()}; }
-    // A fragment already in the editor's form, UTF-8, delivered instead of fragments(): a big
-    // table made that way goes in without being held twice. Nothing by default.
-    virtual std::optional<QByteArray> utf8Fragment() const { return std::nullopt; }
+    // A fragment already in the editor's form, UTF-8 in pieces, delivered instead of
+    // fragments() and handed over: a big table made that way goes in without being held twice.
+    // Nothing by default.
+    virtual std::optional<TextPieces> takeUtf8Pieces() { return std::nullopt; }
     virtual Delivery delivery() const { return Delivery::AtCaret; }
     // After a successful delivery, before the closing step (fields the wizard clears).
     virtual void afterDelivery() {}

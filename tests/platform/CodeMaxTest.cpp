@@ -678,6 +678,43 @@ TEST_F(CodeMaxTest, RandomEditsAroundTheLineKeepTheCount)
     EXPECT_TRUE(sawQuiet && sawPlain) << "the walk stayed on one side of the line";
 }
 
+TEST_F(CodeMaxTest, ABigInsertionIsOneChangeCountedRightAndOneUndo)
+{
+    // 2.6 MB of cells of 13 characters, two of them beyond ASCII, over the selected word: in
+    // one piece, and in pieces cut inside a character.
+    const QByteArray cells = QByteArray("<td>\xc3\xa9\xe2\x82\xac</td>\r\n").repeated(200000);
+    const auto cut = [&](qsizetype size) {
+        TextPieces pieces;
+        for (qsizetype at = 0; at < cells.size(); at += size)
+            pieces.push_back(cells.mid(at, size));
+        return pieces;
+    };
+    const struct {
+        const char* name;
+        std::function<void()> insert;
+    } ways[] = {
+        {"whole", [&] { editor.setSelUtf8(cells); }},
+        {"pieces of 1 MiB + 1", [&] { editor.setSelPieces(cut((1 << 20) + 1)); }},
+        {"pieces of 5", [&] { editor.setSelPieces(cut(5)); }},
+    };
+    for (const auto& way : ways) {
+        editor.setText(QStringLiteral("<p>h\u00e9llo</p>"));
+        select(3, 8);
+        QSignalSpy changed(&editor, &CodeMax::Change);
+        way.insert();
+        EXPECT_EQ(changed.count(), 1) << way.name;
+        EXPECT_EQ(editor.TextLength(), 3 + 13 * 200000 + 4) << way.name;
+        EXPECT_EQ(editor.TextLength(), ownCount(editor)) << way.name;
+        EXPECT_EQ(editor.utf8Text(), "<p>" + cells + "</p>") << way.name;
+        EXPECT_EQ(editor.SelText().size(), 13 * 200000) << way.name << ": the new text stays selected";
+        editor.undo();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(editor.text(), QStringLiteral("<p>h\u00e9llo</p>")) << way.name;
+        EXPECT_EQ(editor.TextLength(), 12) << way.name;
+        EXPECT_FALSE(editor.isUndoAvailable()) << way.name << ": the insertion was one step";
+    }
+}
+
 TEST_F(CodeMaxTest, ABigFileIsReadInPiecesAsTheWholeFile)
 {
     // Characters cut by the end of the first 16 MiB piece: a UTF-8 euro sign in one file, a

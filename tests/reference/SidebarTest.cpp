@@ -507,7 +507,7 @@ TEST_F(SidebarTest, OpenMakesAPageOrANotepadOfTheChosenFileAndStaysOpen)
     w->Dir1->setPath(site);
     w->SSTab1->setCurrentIndex(2);
     // The folder tree reads in the background: the picture waits until it shows the folder.
-    QTest::qWaitFor([w] { return w->Dir1->currentIndex().data(QFileSystemModel::FilePathRole).toString() == w->Dir1->Path(); }, 3000);
+    EXPECT_TRUE(QTest::qWaitFor([w] { return w->Dir1->currentIndex().data(QFileSystemModel::FilePathRole).toString() == w->Dir1->Path(); }, 3000));
     saveShot(w, QStringLiteral("sidebar-files-site"));
 
     // A web page window: the file's text, its path, its bare name, and the older main caption.

@@ -362,8 +362,9 @@ TEST_P(DesignerInsertTest, DeclarationGoesInAtTheDesignersOwnCaret)
     EXPECT_EQ(sample(), samplePage(""));
 
     EXPECT_EQ(frmMain::instance()->ActiveForm(), active);
-    if (active)
+    if (active) {
         EXPECT_EQ(documentText(), before);
+    }
     EXPECT_EQ(prompts.prompts().size(), 0);
 }
 
@@ -580,8 +581,9 @@ TEST_F(DesignerTest, APropertyListThatIsMissingEmptyOddLongOrBinary)
         auto* w = openDesigner();
         ASSERT_NE(w, nullptr) << c.name;
         EXPECT_EQ(w->Flex->rowCount(), c.rows) << c.name;
-        if (!c.box.isEmpty())
+        if (!c.box.isEmpty()) {
             EXPECT_TRUE(isBox(prompts.last(), c.box, 48)) << c.name;
+        }
         // The window works without a list.
         w->Command5->click();
         w->lblResult->setText(QStringLiteral("    color: red;"));

@@ -249,13 +249,40 @@ TEST(CsvTableText, ProgressIsToldAndCanStopTheBuild)
         EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
         EXPECT_GE(told.front(), 0);
         EXPECT_LE(told.back(), 100);
-        EXPECT_GE(told.back(), 50) << "the second pass reports too";
+        EXPECT_GE(told.back(), 50) << "reports go on to the end";
 
-        // A stop in either pass gives nothing.
+        // A stop at the first report or a later one gives nothing.
         for (int stopAt : {1, 3}) {
             int calls = 0;
             EXPECT_EQ(CsvTableText::fragment({}, text, CsvTableText::comma, [&](int) { return ++calls < stopAt; }), QByteArray());
             EXPECT_EQ(calls, stopAt) << "no step after the stop";
         }
+    }
+}
+
+// The table comes in pieces of at most the aimed size, each cut between parts; one cell bigger
+// than a piece has a piece of its own. Joined, they are the table.
+TEST(CsvTableText, PiecesAreCutBetweenPartsAndJoinToTheTable)
+{
+    const QByteArray huge((3 << 20) + 7, 'h');
+    const struct {
+        const char* name;
+        QByteArray text;
+    } cases[] = {
+        {"many short lines", QByteArray("a,b,c\r\n").repeated(100000)},
+        {"one long line", QByteArray("field,").repeated(400000)},
+        {"a cell bigger than a piece", "a,b\r\n" + huge + ",x\r\nc,d"},
+    };
+    for (const auto& c : cases) {
+        const TextPieces pieces = CsvTableText::pieces({}, c.text, CsvTableText::comma);
+        ASSERT_GE(pieces.size(), 2u) << c.name;
+        for (const QByteArray& piece : pieces) {
+            if (piece.size() > Pieces::aimedSize) {
+                EXPECT_TRUE(piece.contains(huge)) << c.name << ": only a huge cell goes beyond the aimed size";
+                EXPECT_LE(piece.size(), huge.size() + 4 + 7) << c.name << ": the cell and its tags, nothing more";
+            }
+            EXPECT_TRUE(piece.endsWith("\r\n") || piece.endsWith(">")) << c.name << ": cut between parts";
+        }
+        EXPECT_EQ(Pieces::joined(pieces), CsvTableText::fragment({}, c.text, CsvTableText::comma)) << c.name;
     }
 }
