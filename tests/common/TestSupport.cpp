@@ -9,6 +9,8 @@
 #include "platform/Forms.h"
 #include "platform/RichTextBox.h"
 #include "shell/frmMain.h"
+
+#include <QListWidget>
 #include "shell/modMain.h"
 
 #include <QCoreApplication>
@@ -96,6 +98,14 @@ void WindowTest::processEvents()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+}
+
+QStringList rows(const QListWidget* list)
+{
+    QStringList r;
+    for (int i = 0; i < list->count(); ++i)
+        r << list->item(i)->text();
+    return r;
 }
 
 std::string visible(const QString& s)

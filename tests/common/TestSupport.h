@@ -56,6 +56,9 @@ public:
 // <name>.png, so a person can look at what a test built.
 void saveShot(QWidget* w, const QString& name);
 
+// The texts of a list's rows, top to bottom.
+QStringList rows(const class QListWidget* list);
+
 // Makes a string's line ends visible in failure messages.
 std::string visible(const QString& s);
 

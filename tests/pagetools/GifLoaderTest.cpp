@@ -56,13 +56,6 @@ protected:
         }
         return w;
     }
-    static QStringList rows(const QListWidget* list)
-    {
-        QStringList r;
-        for (int i = 0; i < list->count(); ++i)
-            r << list->item(i)->text();
-        return r;
-    }
     static void setRows(QListWidget* list, const QStringList& rows)
     {
         list->clear();

@@ -26,13 +26,6 @@ protected:
             folder.write(QStringLiteral("Documents/Help/") + QString::fromLatin1(name),
                          QByteArray("<html><body><h1>") + name + "</h1></body></html>");
     }
-    static QStringList rows(const QListWidget* list)
-    {
-        QStringList r;
-        for (int i = 0; i < list->count(); ++i)
-            r << list->item(i)->text();
-        return r;
-    }
     QUrl page(const char* file) const
     {
         return QUrl::fromLocalFile(folder.file(QStringLiteral("Documents/Help/") + QString::fromLatin1(file)));

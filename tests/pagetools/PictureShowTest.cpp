@@ -1,4 +1,5 @@
 // The gallery page byte for byte, for both layouts, and the addresses of awkward file names.
+#include "common/JumpMenuScript.h"
 #include "pagetools/PictureShow.h"
 #include "wizards/DropDownScript.h"
 
@@ -10,22 +11,14 @@ QString u(const char* s) { return QString::fromUtf8(s); }
 const char* const head =
     "<html>\r\n\r\n<head>\r\n<meta name=\"GENERATOR\" content=\"Velloro 2002\">\r\n<meta name=\"AUTHOR\" content=\"Ansel Corby\">\r\n"
     "<title> Pictures </title>\r\n</head> \r\n\r\n<body text=\"#000000\" bgColor=\"ffffff\">\r\n";
-const char* const script =
-    "<script>\r\nfunction DropDownMenu(entered)\r\n{\r\nwith (entered)\r\n{\r\nref=options[selectedIndex].value; \r\n"
-    "splitcharacter=ref.lastIndexOf(\"&\"); \r\n"
-    "if (splitcharacter!=-1) {loc=ref.substring(0,splitcharacter);   target=ref.substring(splitcharacter+1,1000).toLowerCase();}\r\n"
-    "else {loc=ref; target=\"_self\";};\r\nlowloc=loc.toLowerCase(); \r\nif (lowloc==\"false\") {return;} \r\n"
-    "if (target==\"_self\") {document.location=loc;} \r\nelse {if (target==\"_top\") {top.location=loc;} \r\n"
-    "else {if (target==\"_blank\") {window.open(loc);} \r\nelse{if (target==\"_parent\") {parent.location=loc;}\r\n"
-    "else {parent.frames[target].location=loc;}; \r\n}}}}\r\n}\r\n</script>";
 const char* const tail = "<br><p align=Center>Made by Velloro 2002 Pro</p>\r\n</body>\r\n</html>\r\n";
 }
 
 TEST(PictureShow, ScriptAndHeads)
 {
-    EXPECT_EQ(DropDownScript::text(), u(script));
+    EXPECT_EQ(DropDownScript::text(), u(jumpScript));
     EXPECT_EQ(PictureShow::bulletHead(), u(head));
-    EXPECT_EQ(PictureShow::dropDownHead(), u(head) + u(" ") + u(script) + u("\r\n"));
+    EXPECT_EQ(PictureShow::dropDownHead(), u(head) + u(" ") + u(jumpScript) + u("\r\n"));
 }
 
 TEST(PictureShow, Pages)
@@ -41,7 +34,7 @@ TEST(PictureShow, Pages)
                     "<a name=/pics/a.gif><br><p align=Center>/pics/a.gif <a href=#TOP>[ TOP ]</a></p><p align=Center><img src=/pics/a.gif></p>\r\n") +
                   u(tail));
     EXPECT_EQ(PictureShow::page({u("/p/x.bmp")}, PictureShow::Layout::DropDown),
-              u(head) + u(" ") + u(script) +
+              u(head) + u(" ") + u(jumpScript) +
                   u("\r\n<p>There are 1 pictures in this page.</p>\r\n"
                     "<a name=TOP><p align=Center><input type=Button value=Go name=B3 onclick=DropDownMenu(D1) ><select size=1 name=D1>\r\n"
                     "<option value=#/p/x.bmp>/p/x.bmp</option>\r\n</select></p>\r\n"

@@ -45,13 +45,6 @@ protected:
         }
         return w;
     }
-    static QStringList rows(const QListWidget* list)
-    {
-        QStringList r;
-        for (int i = 0; i < list->count(); ++i)
-            r << list->item(i)->text();
-        return r;
-    }
 };
 }
 

@@ -1,6 +1,7 @@
 // The main window's three reference panels, driven through their controls' names with the
 // mouse, against real page and notepad windows.
 #include "common/TestSupport.h"
+#include "reference/ShownItem.h"
 
 #include "documents/DocumentWindow.h"
 #include "documents/frmDocument.h"
@@ -55,22 +56,6 @@ protected:
         EXPECT_NE(w, nullptr) << name;
         return w;
     }
-    // The item of a key; its branches are opened and it is scrolled into view so the mouse can
-    // reach it.
-    QTreeWidgetItem* item(QTreeWidget* tree, const QString& key)
-    {
-        QTreeWidgetItemIterator it(tree);
-        for (; *it; ++it)
-            if ((*it)->data(0, NodeKeyRole).toString() == key) {
-                for (QTreeWidgetItem* p = (*it)->parent(); p; p = p->parent())
-                    p->setExpanded(true);
-                tree->scrollToItem(*it);
-                processEvents();
-                return *it;
-            }
-        ADD_FAILURE() << "no item " << key.toStdString();
-        return nullptr;
-    }
     void click(QTreeWidget* tree, QTreeWidgetItem* i)
     {
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(i).center());
@@ -124,13 +109,13 @@ TEST_F(PanelTest, LibraryPanelHoldsTheReferenceTree)
     EXPECT_EQ(root->child(2)->text(0), QStringLiteral("ASP Reference"));
     // The first branch of each part shows open; others stay shut.
     for (const char* key : {"child1_root1", "Font + Text properties", "Built in Objects"})
-        EXPECT_TRUE(item(tree, QString::fromLatin1(key))->isExpanded()) << key;
+        EXPECT_TRUE(shownItem(tree, QString::fromLatin1(key))->isExpanded()) << key;
     EXPECT_TRUE(root->isExpanded());
-    EXPECT_FALSE(item(tree, QStringLiteral("child2_root1"))->isExpanded());
+    EXPECT_FALSE(shownItem(tree, QStringLiteral("child2_root1"))->isExpanded());
     // Images: branches, leaves and web links are told apart by number and picture.
-    QTreeWidgetItem* branch = item(tree, QStringLiteral("child1_root1"));
-    QTreeWidgetItem* leaf = item(tree, QStringLiteral("child1_child1"));
-    QTreeWidgetItem* link = item(tree, QStringLiteral("child8_root1"))->child(0);
+    QTreeWidgetItem* branch = shownItem(tree, QStringLiteral("child1_root1"));
+    QTreeWidgetItem* leaf = shownItem(tree, QStringLiteral("child1_child1"));
+    QTreeWidgetItem* link = shownItem(tree, QStringLiteral("child8_root1"))->child(0);
     EXPECT_EQ(branch->data(0, NodeImageRole).toInt(), 2);
     EXPECT_EQ(leaf->data(0, NodeImageRole).toInt(), 3);
     EXPECT_EQ(link->data(0, NodeImageRole).toInt(), 4);
@@ -151,12 +136,12 @@ TEST_F(PanelTest, LibraryClickChoosesAndDoubleClickInsertsTheCaptionOnItsOwnLine
     frmDocument* page = newPage(QStringLiteral("<body></body>"));
     page->CodeMax1()->setCursorPosition(0, 6);
 
-    click(tree, item(tree, QStringLiteral("child1_child1")));
+    click(tree, shownItem(tree, QStringLiteral("child1_child1")));
     EXPECT_EQ(control<QLineEdit>("Text1")->text(), QStringLiteral("align="));
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body></body>"));
 
     // A branch inserts like a leaf.
-    doubleClick(tree, item(tree, QStringLiteral("child1_root1")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("child1_root1")));
     EXPECT_EQ(control<QLineEdit>("Text1")->text(), QStringLiteral("<Text>"));
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body><Text>") + CRLF + QStringLiteral("</body>"));
     EXPECT_FALSE(page->CodeMax1()->hasSelectedText());
@@ -167,7 +152,7 @@ TEST_F(PanelTest, LibraryClickChoosesAndDoubleClickInsertsTheCaptionOnItsOwnLine
 
     // Insert sends the chosen text again, at the caret, over the selection.
     page->CodeMax1()->setSelection(1, 0, 1, 7);
-    click(tree, item(tree, QStringLiteral("Cookies1")));
+    click(tree, shownItem(tree, QStringLiteral("Cookies1")));
     EXPECT_EQ(control<QLineEdit>("Text1")->text(), QStringLiteral("Cookies"));
     control<QPushButton>("Command3")->click();
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body><Text>") + CRLF + QStringLiteral("Cookies") + CRLF);
@@ -191,13 +176,13 @@ TEST_F(PanelTest, LibraryIsSilentInANotepadAndWithNoDocument)
     place(createLibraryPanel(host.get()));
     auto* tree = control<QTreeWidget>("TreeView1");
     // No document at all: nothing happens, no box.
-    doubleClick(tree, item(tree, QStringLiteral("child5_child6")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("child5_child6")));
     EXPECT_EQ(control<QLineEdit>("Text1")->text(), QStringLiteral("Scr="));
     EXPECT_TRUE(prompts.prompts().isEmpty());
 
     frmDocument* page = newPage(QStringLiteral("page"));
     notepad* pad = newPad(QStringLiteral("notes"));
-    doubleClick(tree, item(tree, QStringLiteral("seperate")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("seperate")));
     control<QPushButton>("Command3")->click();
     EXPECT_EQ(pad->RichTextBox1()->text(), QStringLiteral("notes"));
     EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("page"));
@@ -245,14 +230,14 @@ TEST_F(PanelTest, ScriptClickCopiesTheKeyOfALeafOnly)
     place(createScriptPanel(host.get()));
     auto* tree = control<QTreeWidget>("JavaList");
     auto* javatext = control<QLineEdit>("javatext");
-    click(tree, item(tree, QStringLiteral("Digital Clock")));
+    click(tree, shownItem(tree, QStringLiteral("Digital Clock")));
     EXPECT_EQ(javatext->text(), QStringLiteral("Digital Clock"));
     EXPECT_TRUE(control<QPushButton>("Command5")->isEnabled());
-    click(tree, item(tree, QStringLiteral("root")));
+    click(tree, shownItem(tree, QStringLiteral("root")));
     EXPECT_EQ(javatext->text(), QStringLiteral("Digital Clock"));
-    click(tree, item(tree, QStringLiteral("Advanced Script's")));
+    click(tree, shownItem(tree, QStringLiteral("Advanced Script's")));
     EXPECT_EQ(javatext->text(), QStringLiteral("Digital Clock"));
-    click(tree, item(tree, QStringLiteral("Sports Headlines At MSNBC")));
+    click(tree, shownItem(tree, QStringLiteral("Sports Headlines At MSNBC")));
     EXPECT_EQ(javatext->text(), QStringLiteral("Sports Headlines At MSNBC"));
     EXPECT_TRUE(frmMain::instance()->documents().isEmpty());
 }
@@ -266,7 +251,7 @@ TEST_F(PanelTest, ScriptDoubleClickOpensItsPageAsANewWebPage)
     const QString onDisk = QString::fromUtf8(folder.read(QStringLiteral("Templates/Javascript/Digital Clock.htm")));
     ASSERT_FALSE(onDisk.isEmpty());
 
-    doubleClick(tree, item(tree, QStringLiteral("Digital Clock")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("Digital Clock")));
     processEvents();
     ASSERT_EQ(main->documents().size(), 1);
     DocumentWindow* doc = main->ActiveForm();
@@ -278,10 +263,10 @@ TEST_F(PanelTest, ScriptDoubleClickOpensItsPageAsANewWebPage)
     EXPECT_TRUE(firstCaption.startsWith(QStringLiteral("Document ")));
 
     // The root and the advanced group open nothing; a script under the group does.
-    doubleClick(tree, item(tree, QStringLiteral("root")));
-    doubleClick(tree, item(tree, QStringLiteral("Advanced Script's")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("root")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("Advanced Script's")));
     EXPECT_EQ(main->documents().size(), 1);
-    doubleClick(tree, item(tree, QStringLiteral("Microsoft Excel")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("Microsoft Excel")));
     processEvents();
     ASSERT_EQ(main->documents().size(), 2);
     const QString excel = folder.path() + QStringLiteral("/Templates/Javascript/Microsoft Excel.htm");
@@ -298,7 +283,7 @@ TEST_F(PanelTest, ScriptOpenButtonOpensTheChosenScript)
 {
     place(createScriptPanel(host.get()));
     auto* tree = control<QTreeWidget>("JavaList");
-    click(tree, item(tree, QStringLiteral("Link 1 .css")));
+    click(tree, shownItem(tree, QStringLiteral("Link 1 .css")));
     control<QPushButton>("Command5")->click();
     processEvents();
     ASSERT_EQ(frmMain::instance()->documents().size(), 1);
@@ -311,7 +296,7 @@ TEST_F(PanelTest, AMissingScriptPageLeavesAnEmptyPageAndNoMessage)
     place(createScriptPanel(host.get()));
     auto* tree = control<QTreeWidget>("JavaList");
     ASSERT_TRUE(QFile::remove(folder.file(QStringLiteral("Templates/Javascript/Count Down.htm"))));
-    doubleClick(tree, item(tree, QStringLiteral("Count Down")));
+    doubleClick(tree, shownItem(tree, QStringLiteral("Count Down")));
     processEvents();
     ASSERT_EQ(frmMain::instance()->documents().size(), 1);
     DocumentWindow* doc = frmMain::instance()->ActiveForm();

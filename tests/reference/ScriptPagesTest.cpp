@@ -1,5 +1,6 @@
 // Every script of the script list has its page in the application folder's data, and each
 // page is a complete, self-contained document with a script of its own.
+#include "common/PageTags.h"
 #include "reference/ReferenceData.h"
 
 #include <QFile>
@@ -17,55 +18,17 @@ QString readPage(const QString& folder, const QString& key)
     return QString::fromUtf8(f.readAll());
 }
 
-// A strict check of the markup: comments skipped, script and style bodies taken as raw text,
-// void elements stand alone, and every other element is closed in order. Returns the first
-// fault, or an empty string. Fills the bodies of the scripts found.
+// The markup's first fault, or an empty string; fills the bodies of the scripts found.
 QString checkMarkup(const QString& page, QStringList* scripts)
 {
-    static const QSet<QString> voids = {"area", "base", "br", "col", "embed", "hr", "img", "input",
-                                        "link", "meta", "source", "track", "wbr"};
-    static const QRegularExpression tagName(QStringLiteral("^<(/?)([a-zA-Z][a-zA-Z0-9-]*)"));
-    QStringList open;
-    qsizetype i = 0;
-    while ((i = page.indexOf(QLatin1Char('<'), i)) >= 0) {
-        if (page.mid(i, 4) == QLatin1String("<!--")) {
-            const qsizetype end = page.indexOf(QStringLiteral("-->"), i + 4);
-            if (end < 0)
-                return QStringLiteral("unclosed comment");
-            i = end + 3;
-            continue;
-        }
-        if (page.mid(i, 9).compare(QLatin1String("<!doctype"), Qt::CaseInsensitive) == 0) {
-            i = page.indexOf(QLatin1Char('>'), i) + 1;
-            continue;
-        }
-        const auto m = tagName.match(page.mid(i, 40));
-        if (!m.hasMatch())
-            return QStringLiteral("a bare '<' at %1").arg(i);
-        const qsizetype close = page.indexOf(QLatin1Char('>'), i);
-        if (close < 0)
-            return QStringLiteral("unclosed tag");
-        const QString name = m.captured(2).toLower();
-        const bool closing = !m.captured(1).isEmpty();
-        i = close + 1;
-        if (closing) {
-            if (open.isEmpty() || open.last() != name)
-                return QStringLiteral("</%1> closes <%2>").arg(name, open.isEmpty() ? QString() : open.last());
-            open.removeLast();
-        } else if (name == QLatin1String("script") || name == QLatin1String("style")) {
-            const qsizetype end = page.indexOf(QStringLiteral("</") + name + QLatin1Char('>'), i, Qt::CaseInsensitive);
-            if (end < 0)
-                return QStringLiteral("unclosed <%1>").arg(name);
-            if (name == QLatin1String("script") && scripts)
-                *scripts << page.mid(i, end - i);
-            i = end + name.size() + 3;
-        } else if (!voids.contains(name)) {
-            open << name;
-        }
-    }
-    if (!open.isEmpty())
-        return QStringLiteral("unclosed <%1>").arg(open.last());
-    return {};
+    QString fault;
+    const QList<Tag> tags = tagsOf(page, &fault);
+    if (!fault.isEmpty())
+        return fault;
+    for (const Tag& t : tags)
+        if (t.name == QLatin1String("script") && scripts)
+            *scripts << t.body;
+    return checkNesting(tags);
 }
 
 }  // namespace

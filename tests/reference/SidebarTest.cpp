@@ -2,6 +2,7 @@
 // mouse: the code tree and the character grid against page, split and notepad windows and no
 // window at all, the on-top button, and the file page on real files of the test's folder.
 #include "common/TestSupport.h"
+#include "reference/ShownItem.h"
 
 #include "documents/DocumentWindow.h"
 #include "documents/frmDocument.h"
@@ -62,20 +63,6 @@ protected:
         processEvents();
         return split;
     }
-    // The item of a key, with its branches opened and scrolled into view for the mouse.
-    static QTreeWidgetItem* item(QTreeWidget* tree, const QString& key)
-    {
-        for (QTreeWidgetItemIterator it(tree); *it; ++it)
-            if ((*it)->data(0, NodeKeyRole).toString() == key) {
-                for (QTreeWidgetItem* p = (*it)->parent(); p; p = p->parent())
-                    p->setExpanded(true);
-                tree->scrollToItem(*it);
-                processEvents();
-                return *it;
-            }
-        ADD_FAILURE() << "no item " << key.toStdString();
-        return nullptr;
-    }
     static void click(QAbstractItemView* view, const QRect& r) { QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, r.center()); }
     static void doubleClick(QAbstractItemView* view, const QRect& r)
     {
@@ -85,13 +72,13 @@ protected:
     void clickNode(sidebar* w, const char* key)
     {
         w->SSTab1->setCurrentIndex(0);
-        QTreeWidgetItem* i = item(w->TreeView1, QString::fromLatin1(key));
+        QTreeWidgetItem* i = shownItem(w->TreeView1, QString::fromLatin1(key));
         click(w->TreeView1, w->TreeView1->visualItemRect(i));
     }
     void doubleClickNode(sidebar* w, const char* key)
     {
         w->SSTab1->setCurrentIndex(0);
-        QTreeWidgetItem* i = item(w->TreeView1, QString::fromLatin1(key));
+        QTreeWidgetItem* i = shownItem(w->TreeView1, QString::fromLatin1(key));
         doubleClick(w->TreeView1, w->TreeView1->visualItemRect(i));
     }
     QRect cell(sidebar* w, int row)
@@ -119,13 +106,6 @@ protected:
         list->scrollTo(index);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
         processEvents();
-    }
-    static QStringList rows(const QListWidget* list)
-    {
-        QStringList r;
-        for (int i = 0; i < list->count(); ++i)
-            r << list->item(i)->text();
-        return r;
     }
     static QPoint caret(CodeMax* editor)
     {
@@ -181,8 +161,8 @@ TEST_F(SidebarTest, OpensFromItsThreeKeysAsOneFloatingWindowOnTop)
     ASSERT_EQ(root->childCount(), 2);
     EXPECT_EQ(root->child(0)->text(0), QStringLiteral("<HTML CODE>"));
     EXPECT_EQ(root->child(1)->text(0), QStringLiteral("<ASP CODE>"));
-    EXPECT_EQ(item(w->TreeView1, QStringLiteral("child2_child0"))->text(0), QStringLiteral("<HTML"));
-    EXPECT_EQ(item(w->TreeView1, QStringLiteral("child3_child0"))->text(0), QStringLiteral("Coming Soon"));
+    EXPECT_EQ(shownItem(w->TreeView1, QStringLiteral("child2_child0"))->text(0), QStringLiteral("<HTML"));
+    EXPECT_EQ(shownItem(w->TreeView1, QStringLiteral("child3_child0"))->text(0), QStringLiteral("Coming Soon"));
     saveShot(w, QStringLiteral("sidebar-code"));
 
     // The character page: the main window's table.

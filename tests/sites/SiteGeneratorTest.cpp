@@ -159,11 +159,13 @@ TEST(SiteGenerator, BusinessAndPersonalSites)
         EXPECT_EQ(QString::fromUtf8(readAll(folder + u("/") + c.menuName)), SiteGenerator::menuPage(c.type, u(c.title), c.ticks));
         EXPECT_EQ(steps, (QList<int>{1, 2, 3, 4})) << c.title;
         // Pages and pictures are the templates' own bytes.
-        for (const QString& name : c.files)
-            if (name != c.menuName && name != u("SiteDetails.dat"))
+        for (const QString& name : c.files) {
+            if (name != c.menuName && name != u("SiteDetails.dat")) {
                 EXPECT_EQ(readAll(folder + u("/") + name),
                           readAll(templates + (c.type == Type::Business ? u("/Business/") : u("/Personal/")) + name))
                     << name.toStdString();
+            }
+        }
     }
 }
 

@@ -44,8 +44,9 @@ protected:
         frmMain::instance()->MenuClick(u("Site Managment"));
         auto* w = loadedForm<SiteManagment>();
         EXPECT_NE(w, nullptr);
-        if (w)
+        if (w) {
             EXPECT_TRUE(w->isVisible());
+        }
         return w;
     }
     static QWidget* current(SiteManagment* w) { return w->findChild<QStackedWidget*>()->currentWidget(); }
@@ -81,7 +82,7 @@ QVariant run(WebBrowser& browser, const QString& script)
         result = v;
         done = true;
     });
-    QTest::qWaitFor([&] { return done; }, 10000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 10000)) << "the script answered";
     return result;
 }
 

@@ -162,9 +162,11 @@ TEST(DesignerText, ShippedPropertyListIsComplete)
     const QByteArray bytes = file.readAll();
     EXPECT_TRUE(bytes.endsWith("\r\n"));
     EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
-    for (const QByteArray& line : bytes.split('\n'))
-        if (!line.isEmpty())
+    for (const QByteArray& line : bytes.split('\n')) {
+        if (!line.isEmpty()) {
             EXPECT_EQ(line.count('|'), 3) << line.constData();
+        }
+    }
     const DesignerText::PropertyList list = DesignerText::readPropertyList(bytes);
     ASSERT_TRUE(list.fault.isEmpty());
     ASSERT_FALSE(list.rows.isEmpty());

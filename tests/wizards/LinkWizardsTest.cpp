@@ -1,6 +1,7 @@
 // The link, menu and script wizards in their windows: opened from their menu keys, filled by
 // name, run with a page, a split window, a notepad and no document.
 #include "WizardFixture.h"
+#include "common/JumpMenuScript.h"
 
 #include "colour/ColourSwatch.h"
 #include "documents/frmDocument.h"
@@ -33,15 +34,6 @@ namespace {
 const QString refusal = QStringLiteral("You have a notepad document open, you need a web page open for this feature");
 const QString noEntry = QStringLiteral("You need to add at least 1 entry!");
 
-// The jump menu's script, line by line.
-const QString jumpScript = QStringLiteral(
-    "<script>\r\nfunction DropDownMenu(entered)\r\n{\r\nwith (entered)\r\n{\r\nref=options[selectedIndex].value; \r\n"
-    "splitcharacter=ref.lastIndexOf(\"&\"); \r\n"
-    "if (splitcharacter!=-1) {loc=ref.substring(0,splitcharacter);   target=ref.substring(splitcharacter+1,1000).toLowerCase();}\r\n"
-    "else {loc=ref; target=\"_self\";};\r\nlowloc=loc.toLowerCase(); \r\nif (lowloc==\"false\") {return;} \r\n"
-    "if (target==\"_self\") {document.location=loc;} \r\nelse {if (target==\"_top\") {top.location=loc;} \r\n"
-    "else {if (target==\"_blank\") {window.open(loc);} \r\nelse{if (target==\"_parent\") {parent.location=loc;}\r\n"
-    "else {parent.frames[target].location=loc;}; \r\n}}}}\r\n}\r\n</script>");
 
 class LinkWizardTest : public WizardFixture {
 protected:
@@ -262,7 +254,7 @@ TEST_F(LinkWizardTest, JumpMenuHasItsFieldsAndDefaults)
     ASSERT_NE(w, nullptr);
     saveShot(w, QStringLiteral("dropmenu1"));
     EXPECT_EQ(w->windowTitle(), QStringLiteral("Hyperlink Drop down menu ::"));
-    EXPECT_EQ(w->Text6->text(), jumpScript);
+    EXPECT_EQ(w->Text6->text(), QString::fromUtf8(jumpScript));
     EXPECT_FALSE(w->Text6->isVisibleTo(w));
     EXPECT_FALSE(w->List1->isVisibleTo(w));
     EXPECT_FALSE(w->List2->isVisibleTo(w));
@@ -340,7 +332,7 @@ TEST_F(LinkWizardTest, JumpMenuGathersItsEntriesAndWritesTheScriptWithTheMenu)
         "<option value=HTTP://velloro.example/>Home</option>\r\n"
         "<option value=HTTP://b.example/&main>Frame \"B\"</option>\r\n"
         "</select></p>\r\n");
-    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body>") + jumpScript + QStringLiteral("\r\n") + menu +
+    EXPECT_EQ(page->CodeMax1()->text(), QStringLiteral("<body>") + QString::fromUtf8(jumpScript) + QStringLiteral("\r\n") + menu +
                                             QStringLiteral("</body>"));
     EXPECT_FALSE(page->CodeMax1()->hasSelectedText());
     EXPECT_FALSE(w->isVisible());
