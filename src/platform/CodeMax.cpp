@@ -64,8 +64,6 @@ void installPlainAccessible()
     Q_UNUSED(installed);
 }
 
-// Notices of changes about to be made, and nothing else: no notice after a change reaches
-// QScintilla's handlers.
 // The length of the UTF-8 bytes without a character left unfinished at their end.
 qsizetype wholeCharacters(QByteArrayView bytes)
 {
@@ -79,6 +77,8 @@ qsizetype wholeCharacters(QByteArrayView bytes)
     return bytes.size();
 }
 
+// Notices of changes about to be made, and nothing else: no notice after a change reaches
+// QScintilla's handlers.
 constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
 
 
