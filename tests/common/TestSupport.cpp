@@ -14,6 +14,8 @@
 #include "shell/modMain.h"
 
 #include <QCoreApplication>
+#include <QTest>
+#include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -98,6 +100,27 @@ void WindowTest::processEvents()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+}
+
+QStringList tabOrder(QWidget* window)
+{
+    window->show();
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    for (QWidget* c = window->nextInFocusChain(); c != window; c = c->nextInFocusChain())
+        if (c->isVisibleTo(window) && c->isEnabled() && (c->focusPolicy() & Qt::TabFocus) && !c->focusProxy()) {
+            c->setFocus(Qt::TabFocusReason);
+            break;
+        }
+    QStringList names;
+    for (int i = 0; i < 40; ++i) {
+        QWidget* at = QApplication::focusWidget();
+        if (!at || at->window() != window || names.contains(at->objectName()))
+            break;
+        names << at->objectName();
+        QTest::keyClick(at, Qt::Key_Tab);
+    }
+    return names;
 }
 
 QStringList rows(const QListWidget* list)

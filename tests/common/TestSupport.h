@@ -56,6 +56,11 @@ public:
 // <name>.png, so a person can look at what a test built.
 void saveShot(QWidget* w, const QString& name);
 
+// The names of the controls the Tab key reaches in a window, in order, once round: the window is
+// shown and made active, the first control of its focus chain takes the focus, and real Tab
+// keys are pressed.
+QStringList tabOrder(QWidget* window);
+
 // The texts of a list's rows, top to bottom.
 QStringList rows(const class QListWidget* list);
 

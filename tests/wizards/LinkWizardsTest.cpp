@@ -38,34 +38,7 @@ const QString noEntry = QStringLiteral("You need to add at least 1 entry!");
 class LinkWizardTest : public WizardFixture {
 protected:
     using WizardFixture::items;
-    static QStringList items(const QListWidget* list)
-    {
-        QStringList rows;
-        for (int i = 0; i < list->count(); ++i)
-            rows << list->item(i)->text();
-        return rows;
-    }
-    // The controls that Tab reaches from the first one of the focus chain, in the order it reaches them, once round.
-    static QStringList tabOrder(QWidget* w)
-    {
-        w->show();
-        w->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(w));
-        for (QWidget* c = w->nextInFocusChain(); c != w; c = c->nextInFocusChain())
-            if (c->isVisibleTo(w) && c->isEnabled() && (c->focusPolicy() & Qt::TabFocus) && !c->focusProxy()) {
-                c->setFocus(Qt::TabFocusReason);
-                break;
-            }
-        QStringList names;
-        for (int i = 0; i < 40; ++i) {
-            QWidget* at = QApplication::focusWidget();
-            if (!at || at->window() != w || names.contains(at->objectName()))
-                break;
-            names << at->objectName();
-            QTest::keyClick(at, Qt::Key_Tab);
-        }
-        return names;
-    }
+    static QStringList items(const QListWidget* list) { return rows(list); }
 };
 }
 

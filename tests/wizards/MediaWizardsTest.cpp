@@ -62,19 +62,6 @@ long currentKb()
 
 class MediaWizardsTest : public WizardFixture {
 protected:
-    // The named controls the Tab key visits, in order, from the first one.
-    static QStringList tabOrder(QWidget* window)
-    {
-        QStringList names;
-        QWidget* w = window;
-        do {
-            w = w->nextInFocusChain();
-            if (w->isVisibleTo(window) && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus) && !w->objectName().isEmpty()
-                && !w->objectName().startsWith(QLatin1String("qt_")))
-                names << w->objectName();
-        } while (w != window);
-        return names;
-    }
     // A picture of the given size and kind in the test folder; its path.
     QString picture(const QString& name, int width, int height, const char* format)
     {
