@@ -25,11 +25,12 @@ ProjAdd::ProjAdd(QWidget* parent) : QDialog(parent)
     auto* outer = new QVBoxLayout(this);
     outer->addWidget(Look::banner(QStringLiteral("Label4"), QStringLiteral("Add File"), this));
     auto* form = new QFormLayout;
+    // Made in the order Tab walks them: Find follows the location it fills.
     Text1 = named(new QLineEdit(this), QStringLiteral("Text1"));
+    Command2 = Look::faceButton(QStringLiteral("Command2"), QStringLiteral("Find"), this);
     Text2 = named(new QLineEdit(this), QStringLiteral("Text2"));
     Text2->setReadOnly(true);
     Text3 = named(new QLineEdit(this), QStringLiteral("Text3"));
-    Command2 = Look::faceButton(QStringLiteral("Command2"), QStringLiteral("Find"), this);
     auto* fileRow = new QHBoxLayout;
     fileRow->addWidget(Text1, 1);
     fileRow->addWidget(Command2);
@@ -41,6 +42,9 @@ ProjAdd::ProjAdd(QWidget* parent) : QDialog(parent)
     buttons->addStretch();
     Command3 = Look::faceButton(QStringLiteral("Command3"), QStringLiteral("Add"), this);
     Command1 = Look::faceButton(QStringLiteral("Command1"), QStringLiteral("Close"), this);
+    // Enter adds, as a wizard's Enter inserts; Find is for the mouse or Tab and Space.
+    Command3->setDefault(true);
+    Command2->setAutoDefault(false);
     buttons->addWidget(Command3);
     buttons->addWidget(Command1);
     outer->addLayout(buttons);

@@ -46,8 +46,13 @@ QFrame* wizardPage(const QString& name, const QString& heading, const QString& l
 }
 
 // The row of a page's step buttons, at the page's foot.
-void stepRow(QFrame* page, const QList<QPushButton*>& buttons)
+// The buttons of a page at its foot. The last one goes forward (Enter presses it) unless the
+// page has no way on.
+const char* const forwardProperty = "forward";
+void stepRow(QFrame* page, const QList<QPushButton*>& buttons, bool forward = true)
 {
+    if (forward)
+        buttons.last()->setProperty(forwardProperty, true);
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* b : buttons)
@@ -147,7 +152,7 @@ SiteManagment::SiteManagment(QWidget* parent) : QDialog(parent)
     frmstep3->layout()->addWidget(statusbar);
     progressBack = Look::faceButton(QStringLiteral("progressBack"), QStringLiteral("<< Back"), frmstep3);
     progressBack->setToolTip(QStringLiteral("Back to the site's details"));
-    stepRow(frmstep3, {progressBack});
+    stepRow(frmstep3, {progressBack}, false);
 
     for (QFrame* page : {frmstep0, frmstep1, frmstep2B, frmstep2p, frmcustom, frmstep3})
         steps->addWidget(page);
@@ -214,6 +219,8 @@ void SiteManagment::showStep(QFrame* page)
 {
     steps->setCurrentWidget(page);
     progressBack->setVisible(false);
+    for (QPushButton* b : findChildren<QPushButton*>())
+        b->setDefault(b->parent() == page && b->property(forwardProperty).toBool());
 }
 
 void SiteManagment::detailsNext()

@@ -20,6 +20,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -199,6 +200,7 @@ TEST_F(ProjectPanelTest, AddFilePointsTheProjectAtAFile)
     EXPECT_EQ(w->windowTitle(), u("Add File"));
     EXPECT_EQ(w->Text3->text(), path) << "on activation, from the panel";
     saveShot(w, u("ProjAdd"));
+    EXPECT_EQ(tabOrder(w), (QStringList{u("Text1"), u("Command2"), u("Text2"), u("Text3"), u("Command3"), u("Command1")}));
 
     prompts.answerMsgBox(Answer::OK);
     w->Command3->click();
@@ -212,7 +214,7 @@ TEST_F(ProjectPanelTest, AddFilePointsTheProjectAtAFile)
     w->Command2->click();
     EXPECT_EQ(w->Text1->text(), site("b.htm"));
     EXPECT_EQ(w->Text2->text(), u("b.htm"));
-    w->Command3->click();
+    QTest::keyClick(w->Text1, Qt::Key_Return);  // Enter adds
     EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(folder.read(u("SiteDetails.dat")), header + site("a.htm").toUtf8() + "\r\n" + site("b.htm").toUtf8() + "\r\n");
     EXPECT_EQ(childTexts(), (QStringList{u("a.htm"), u("b.htm")}));
@@ -234,6 +236,8 @@ TEST_F(ProjectPanelTest, AddFilePointsTheProjectAtAFile)
     EXPECT_TRUE(isBox(prompts.last(), u("Run-time error '53':\n\nFile not found"), 16));
     EXPECT_TRUE(w->isVisible());
     EXPECT_FALSE(QFileInfo::exists(u("None")));
+    QTest::keyClick(w->Text1, Qt::Key_Escape);
+    EXPECT_FALSE(w->isVisible()) << "Esc hides";
 }
 
 TEST_F(ProjectPanelTest, DoubleClickOpensAFileAndUploadQueuesTheProject)

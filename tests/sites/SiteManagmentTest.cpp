@@ -112,11 +112,14 @@ TEST_F(SiteManagmentTest, PagesInOrderAndABusinessSiteLoadedAsTheProject)
     w->SmartNetButton10->click();
     EXPECT_EQ(current(w), w->frmstep1);
     saveShot(w, u("SiteWizard-1-details"));
-    // The details page's Next goes by the type.
+    EXPECT_EQ(tabOrder(w), (QStringList{u("sitetitle"), u("siteauthor"), u("sitedate"), u("siteemail"), u("sitetype"),
+                                        u("sitelocation"), u("browseLocation"), u("detailsBack"), u("detailsNextButton"),
+                                        u("SmartNetButton1")}));
+    // The details page's Next goes by the type; Enter in a field presses it.
     const std::pair<const char*, QFrame*> byType[] = {{"Personal", w->frmstep2p}, {"Custom", w->frmcustom}, {"Business", w->frmstep2B}};
     for (const auto& [type, page] : byType) {
         w->sitetype->setCurrentText(u(type));
-        w->detailsNextButton->click();
+        QTest::keyClick(w->siteauthor, Qt::Key_Return);
         EXPECT_EQ(current(w), page) << type;
         saveShot(w, u("SiteWizard-2-") + u(type));
         w->SmartNetButton11->click();  // any back button leads to the details
@@ -168,8 +171,8 @@ TEST_F(SiteManagmentTest, PagesInOrderAndABusinessSiteLoadedAsTheProject)
     EXPECT_TRUE(panel->frproject->isVisibleTo(frmMain::instance()));
     saveShot(frmMain::instance(), u("SiteWizard-project-panel"));
 
-    // Close resets the wizard.
-    w->SmartNetButton1->click();
+    // Close, or Esc, resets the wizard.
+    QTest::keyClick(w, Qt::Key_Escape);
     EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(w->statusbar->text(), u("Status :"));
     EXPECT_EQ(w->sitetitle->text(), u("New_Site"));

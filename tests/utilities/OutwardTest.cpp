@@ -285,3 +285,30 @@ TEST_F(OutwardWindowTest, FeedbackWithoutAMailProgramSaysWhereTheFileIs)
     ASSERT_EQ(prompts.prompts().size(), 5);
     EXPECT_TRUE(prompts.last().text.startsWith(QStringLiteral("The feedback file could not be written: ")));
 }
+
+// The keyboard: Tab walks the fields top to bottom and then the buttons; Enter in a field of
+// the feedback form sends nothing (a half-written form is not sent by accident); Esc hides.
+TEST_F(OutwardWindowTest, TabWalksTheFieldsAndEscHides)
+{
+    frmUpdate* update = openUpdate();
+    ASSERT_NE(update, nullptr);
+    EXPECT_EQ(tabOrder(update), (QStringList{QStringLiteral("Command1"), QStringLiteral("Command3")}))
+        << "the update button waits for a newer version";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(update->isVisible());
+
+    frmMain::instance()->MenuClick(QStringLiteral("Send Feedback"));
+    auto* feedback = loadedForm<FeedBack>();
+    ASSERT_TRUE(feedback && feedback->isVisible());
+    EXPECT_EQ(tabOrder(feedback),
+              (QStringList{QStringLiteral("txtname"), QStringLiteral("txtemail"), QStringLiteral("txtcountry"), QStringLiteral("txtage"),
+                           QStringLiteral("txtcomment"), QStringLiteral("txtchanges"), QStringLiteral("coscale"),
+                           QStringLiteral("Command1"), QStringLiteral("Command2")}));
+    feedback->txtname->setText(QStringLiteral("Ann"));
+    QTest::keyClick(feedback->txtname, Qt::Key_Return);
+    EXPECT_TRUE(prompts.prompts().isEmpty()) << "nothing asked, nothing sent";
+    EXPECT_FALSE(QFile::exists(folder.file(QStringLiteral("Options/FeedBack.dat"))));
+    EXPECT_TRUE(feedback->isVisible());
+    QTest::keyClick(feedback->txtname, Qt::Key_Escape);
+    EXPECT_FALSE(feedback->isVisible());
+}
