@@ -2,6 +2,7 @@
 #include "common/QtPrinters.h"
 #include "services/PropertiesFile.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
 namespace {
@@ -20,52 +21,34 @@ PropertiesRecord paths()
 
 // --- Parse -----------------------------------------------------------------------------------
 
-TEST(PropertiesParse, EightLines)
+// Field by field: eight lines; a comma in a path, which ends the field and shifts every later
+// one (the slipped widths are not the folded values, so both panels come up open); missing
+// lines, which stay empty without an error.
+TEST(PropertiesParse, FieldByField)
 {
-    const PropertiesRecord r = PropertiesFile::parse(QStringLiteral(
-        "c:\\web\r\nc:\r\nc:\\web\\files\r\nd:\\out\r\nd:\r\nd:\\out\\x\r\n 3470 \r\n 720 \r\n"));
-    EXPECT_EQ(r.fieldsRead, 8);
-    EXPECT_EQ(r.openDir, QStringLiteral("c:\\web"));
-    EXPECT_EQ(r.openDrive, QStringLiteral("c:"));
-    EXPECT_EQ(r.openFileDir, QStringLiteral("c:\\web\\files"));
-    EXPECT_EQ(r.saveDir, QStringLiteral("d:\\out"));
-    EXPECT_EQ(r.saveDrive, QStringLiteral("d:"));
-    EXPECT_EQ(r.saveFileDir, QStringLiteral("d:\\out\\x"));
-    EXPECT_EQ(r.sideWidth, QStringLiteral("3470"));
-    EXPECT_EQ(r.rightWidth, QStringLiteral("720"));
-}
-
-TEST(PropertiesParse, PathWithACommaShiftsEveryLaterField)
-{
-    const PropertiesRecord r = PropertiesFile::parse(QStringLiteral(
-        "/home/me/a,b\r\n/\r\n/home/me/a,b\r\n/out\r\n/\r\n/out\r\n 475 \r\n 140 \r\n"));
-    EXPECT_EQ(r.fieldsRead, 8);
-    EXPECT_EQ(r.openDir, QStringLiteral("/home/me/a"));
-    EXPECT_EQ(r.openDrive, QStringLiteral("b"));
-    EXPECT_EQ(r.openFileDir, QStringLiteral("/"));
-    EXPECT_EQ(r.saveDir, QStringLiteral("/home/me/a"));
-    EXPECT_EQ(r.saveDrive, QStringLiteral("b"));
-    EXPECT_EQ(r.saveFileDir, QStringLiteral("/out"));
-    EXPECT_EQ(r.sideWidth, QStringLiteral("/"));
-    EXPECT_EQ(r.rightWidth, QStringLiteral("/out"));
-    // The slipped widths are not the folded values, so both panels come up open.
-    EXPECT_FALSE(PropertiesFile::sideFolded(r.sideWidth));
-    EXPECT_FALSE(PropertiesFile::rightFolded(r.rightWidth));
-}
-
-TEST(PropertiesParse, MissingFieldsStayEmptyWithoutAnError)
-{
-    PropertiesRecord r;
-    EXPECT_NO_THROW(r = PropertiesFile::parse(QStringLiteral("/a\r\n/\r\n/a/b\r\n")));
-    EXPECT_EQ(r.fieldsRead, 3);
-    EXPECT_EQ(r.openFileDir, QStringLiteral("/a/b"));
-    EXPECT_EQ(r.saveDir, QString());
-    EXPECT_EQ(r.sideWidth, QString());
-    EXPECT_EQ(r.rightWidth, QString());
-    EXPECT_FALSE(PropertiesFile::sideFolded(r.sideWidth));
-    EXPECT_FALSE(PropertiesFile::rightFolded(r.rightWidth));
-
-    EXPECT_EQ(PropertiesFile::parse(QString()).fieldsRead, 0);
+    const struct {
+        const char* text;
+        int read;
+        QStringList fields;  // open dir, drive, file dir; save dir, drive, file dir; the two widths
+    } cases[] = {
+        {"c:\\web\r\nc:\r\nc:\\web\\files\r\nd:\\out\r\nd:\r\nd:\\out\\x\r\n 3470 \r\n 720 \r\n", 8,
+         {"c:\\web", "c:", "c:\\web\\files", "d:\\out", "d:", "d:\\out\\x", "3470", "720"}},
+        {"/home/me/a,b\r\n/\r\n/home/me/a,b\r\n/out\r\n/\r\n/out\r\n 475 \r\n 140 \r\n", 8,
+         {"/home/me/a", "b", "/", "/home/me/a", "b", "/out", "/", "/out"}},
+        {"/a\r\n/\r\n/a/b\r\n", 3, {"/a", "/", "/a/b", "", "", "", "", ""}},
+        {"", 0, {"", "", "", "", "", "", "", ""}},
+    };
+    for (const auto& c : cases) {
+        PropertiesRecord r;
+        EXPECT_NO_THROW(r = PropertiesFile::parse(QString::fromLatin1(c.text)));
+        EXPECT_EQ(r.fieldsRead, c.read) << c.text;
+        EXPECT_EQ((QStringList{r.openDir, r.openDrive, r.openFileDir, r.saveDir, r.saveDrive, r.saveFileDir, r.sideWidth,
+                               r.rightWidth}),
+                  c.fields)
+            << c.text;
+        EXPECT_FALSE(PropertiesFile::sideFolded(r.sideWidth)) << c.text;
+        EXPECT_FALSE(PropertiesFile::rightFolded(r.rightWidth)) << c.text;
+    }
 }
 
 // --- Panel states ----------------------------------------------------------------------------
