@@ -79,7 +79,9 @@ qsizetype wholeCharacters(QByteArrayView bytes)
 
 // Notices of changes about to be made, and nothing else: no notice after a change reaches
 // QScintilla's handlers.
-constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE;
+// QScintilla's handlers. And the notices of packed steps to undo or redo.
+constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE
+    | QsciScintillaBase::SC_MOD_CONTAINER;
 
 
 }
@@ -103,8 +105,11 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
     // The character count follows each change, so the status line costs nothing per key
     // however long the text is.
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
-            [this](int position, int type, const char* text, int length, int, int, int, int, int, int) {
-                textModified(position, type, text, length);
+            [this](int position, int type, const char* text, int length, int, int, int, int, int token, int) {
+                if (type & SC_MOD_CONTAINER)
+                    stepHeard(token, type & SC_PERFORMED_UNDO);
+                else
+                    textModified(position, type, text, length);
             });
     connect(this, &QsciScintilla::linesChanged, this, &CodeMax::updateLineNumberWidth);
 }
@@ -166,6 +171,7 @@ void CodeMax::countInsertion()
 
 void CodeMax::changeDone()
 {
+    forgetUnreachableSteps();
     countInsertion();
     setQuiet(SendScintilla(SCI_GETLENGTH) > quietAbove);
     if (!changePending)
@@ -180,6 +186,7 @@ void CodeMax::changeDone()
 void CodeMax::keyPressEvent(QKeyEvent* e)
 {
     QsciScintilla::keyPressEvent(e);
+    takeStepsDue();
     changeDone();
 }
 
@@ -210,8 +217,7 @@ QString CodeMax::SelText() const
 {
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
     const long length = SendScintilla(SCI_GETSELECTIONEND) - start;
-    const auto* data = reinterpret_cast<const char*>(
-        SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
+    const char* data = rangePointer(start, length);
     return length > 0 && data ? QString::fromUtf8(data, length) : QString();
 }
 
@@ -239,31 +245,114 @@ void CodeMax::setSelUtf8(const QByteArray& bytes)
 
 void CodeMax::setSelPieces(TextPieces&& pieces)
 {
-    const qsizetype total = Pieces::totalSize(pieces);
     const long start = SendScintilla(SCI_GETSELECTIONSTART);
-    // Heard only before each piece, which spares QScintilla's copy of it in the notices after.
-    setQuiet(true);
+    const long end = SendScintilla(SCI_GETSELECTIONEND);
+    PackedStep step{start, TextPieces::of(QByteArrayView(rangePointer(start, end - start), end - start)), std::move(pieces)};
     // Room for the whole text first: a buffer grown piece by piece is copied whole at each step.
-    const long kept = SendScintilla(SCI_GETLENGTH) - (SendScintilla(SCI_GETSELECTIONEND) - start);
+    const long kept = SendScintilla(SCI_GETLENGTH) - (end - start);
+    const long total = static_cast<long>(step.inserted.totalSize());
     SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 16 + 4096));
-    SendScintilla(SCI_BEGINUNDOACTION);
+    const bool collecting = SendScintilla(SCI_GETUNDOCOLLECTION);
+    putText(start, end - start, step.inserted);
+    if (collecting) {
+        // The editor's history holds the step as a number; the text stays packed here.
+        forgetUnreachableSteps();
+        const int token = ++lastStepToken;
+        packedSteps.emplace(token, std::move(step));
+        SendScintilla(SCI_ADDUNDOACTION, static_cast<unsigned long>(token), 0L);
+    }
+    SendScintilla(SCI_SETSEL, start, start + total);
+    changeDone();
+}
+
+const char* CodeMax::rangePointer(long start, long length) const
+{
+    return reinterpret_cast<const char*>(SendScintilla(SCI_GETRANGEPOINTER, static_cast<unsigned long>(start), length));
+}
+
+void CodeMax::putText(long position, long replaced, const TextPieces& text)
+{
+    // Outside the undo history, which has the packed step instead of a copy of the text, and
+    // heard only before each piece, which spares QScintilla's copy of it in the notices after.
+    const bool collecting = SendScintilla(SCI_GETUNDOCOLLECTION);
+    SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+    setQuiet(true);
+    SendScintilla(SCI_SETSEL, position, position + replaced);
     SendScintilla(SCI_REPLACESEL, 0UL, "");
     // Each piece goes in as whole characters, an unfinished one at its end with the next:
-    // the characters are counted, and later undone, piece by piece.
+    // the characters are counted piece by piece.
     QByteArray carry;
-    for (QByteArray& piece : pieces) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        QByteArray piece = text.piece(i);
         if (!carry.isEmpty())
             piece.prepend(std::exchange(carry, QByteArray()));
         const qsizetype whole = wholeCharacters(piece);
         carry = piece.sliced(whole);
         SendScintilla(SCI_ADDTEXT, static_cast<unsigned long>(whole), piece.constData());
-        piece = QByteArray();
     }
     if (!carry.isEmpty())
         SendScintilla(SCI_ADDTEXT, static_cast<unsigned long>(carry.size()), carry.constData());
-    SendScintilla(SCI_ENDUNDOACTION);
-    SendScintilla(SCI_SETSEL, start, start + static_cast<long>(total));
+    SendScintilla(SCI_SETUNDOCOLLECTION, static_cast<unsigned long>(collecting));
+}
+
+void CodeMax::stepHeard(int token, bool undone)
+{
+    // The editor tells of the step in the middle of its undo, when the text cannot be changed;
+    // the step is taken right after it.
+    const auto step = packedSteps.find(token);
+    if (step == packedSteps.end())
+        return;
+    step->second.undone = undone;
+    stepsDue.push_back({token, undone});
+    QMetaObject::invokeMethod(this, &CodeMax::takeStepsDue, Qt::QueuedConnection);
+}
+
+void CodeMax::takeStepsDue()
+{
+    if (stepsDue.empty())
+        return;
+    // Replaying a step is part of the undo that a macro records, not keys of its own.
+    const bool recordingMacro = recording != nullptr;
+    if (recordingMacro)
+        SendScintilla(SCI_STOPRECORD);
+    for (const auto& [token, undone] : std::exchange(stepsDue, {})) {
+        const auto found = packedSteps.find(token);
+        if (found == packedSteps.end())
+            continue;
+        const PackedStep& step = found->second;
+        const TextPieces& from = undone ? step.inserted : step.removed;
+        const TextPieces& to = undone ? step.removed : step.inserted;
+        const long length = SendScintilla(SCI_GETLENGTH);
+        if (step.position + from.totalSize() > length)
+            continue;  // not the text the step left: never cut what it did not put there
+        putText(step.position, static_cast<long>(from.totalSize()), to);
+        SendScintilla(SCI_GOTOPOS, step.position + static_cast<long>(to.totalSize()));
+    }
+    if (recordingMacro)
+        SendScintilla(SCI_STARTRECORD);
     changeDone();
+}
+
+void CodeMax::forgetUnreachableSteps()
+{
+    if (packedSteps.empty())
+        return;
+    // Undone steps are out of reach once nothing is left to redo, done ones once nothing is
+    // left to undo: the editor has let go of them.
+    const bool canUndo = SendScintilla(SCI_CANUNDO), canRedo = SendScintilla(SCI_CANREDO);
+    std::erase_if(packedSteps, [&](const auto& entry) { return entry.second.undone ? !canRedo : !canUndo; });
+}
+
+void CodeMax::undo()
+{
+    QsciScintilla::undo();
+    takeStepsDue();
+}
+
+void CodeMax::redo()
+{
+    QsciScintilla::redo();
+    takeStepsDue();
 }
 
 int CodeMax::SelLength() const { return SelText().size(); }

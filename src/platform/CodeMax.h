@@ -5,6 +5,8 @@
 
 #include <QHash>
 #include <functional>
+#include <map>
+#include <vector>
 #include <memory>
 
 class QIODevice;
@@ -47,8 +49,8 @@ public:
     // The same with text already in the editor's own form, UTF-8 (a big table made that way
     // goes in without a second copy).
     void setSelUtf8(const QByteArray& bytes);
-    // The same for a text in pieces, each freed once the editor holds it: a big text is never
-    // held twice beside the editor's own copies. One change and one step to undo.
+    // The same for a text in packed pieces, unpacked one at a time: a big text is never held
+    // twice beside the editor's own copies. One change and one step to undo, kept packed.
     void setSelPieces(TextPieces&& pieces);
     int SelLength() const;
     int TextLength() const;   // in characters
@@ -59,6 +61,9 @@ public:
 
     // Runs an editor command by number; an unknown number is a run-time error (5).
     void ExecuteCmd(int command);
+    // The editor's undo and redo, and the packed steps among them taken at once.
+    void undo() override;
+    void redo() override;
 
     // File transfers; failures are run-time errors (53 not found, 58 exists, 75 access).
     void OpenFile(const QString& path);
@@ -119,6 +124,12 @@ private:
     void playMacro(int slot);
     void updateLineNumberWidth();
     void applyFont(QsciLexer* lexer);
+    const char* rangePointer(long start, long length) const;
+    // Replaces `replaced` bytes at the position with the text, outside the undo history.
+    void putText(long position, long replaced, const TextPieces& text);
+    void stepHeard(int token, bool undone);
+    void takeStepsDue();
+    void forgetUnreachableSteps();
 
     QString languageName;
     QFont textFont;
@@ -137,4 +148,16 @@ private:
     long insertedAt = 0;
     long insertedLength = 0;
     int numberedLines = 0;  // the line count the number margin was last sized for
+    // A big insertion in the undo history: the editor's history holds only its number, the
+    // text it put in and the text it replaced are held here, packed. The editor tells of an
+    // undo or redo of it while it may not change the text; the step is then due.
+    struct PackedStep {
+        long position;
+        TextPieces removed;
+        TextPieces inserted;
+        bool undone = false;
+    };
+    std::map<int, PackedStep> packedSteps;
+    std::vector<std::pair<int, bool>> stepsDue;  // token, undone
+    int lastStepToken = 0;
 };

@@ -43,29 +43,36 @@ private:
     qsizetype count = 0;
 };
 
-// Collects the table in pieces of about the aimed size. A piece is cut before a part that
-// would not fit, so no piece is ever grown and copied; a part bigger than a piece (one huge
-// cell) gets a piece of its own size.
+// Collects the table in pieces of about the aimed size, each packed once it is full. A piece is
+// cut before a part that would not fit; a part bigger than a piece (one huge cell) gets a piece
+// of its own size.
 class PieceWriter {
 public:
     void add(QByteArrayView a, QByteArrayView b = {}, QByteArrayView c = {})
     {
         const qsizetype need = a.size() + b.size() + c.size();
-        if (piece.size() + need > piece.capacity()) {
-            if (!piece.isEmpty())
-                out.push_back(std::exchange(piece, QByteArray()));
-            piece.reserve(std::max(need, Pieces::aimedSize));
-        }
+        if (!piece.isEmpty() && piece.size() + need > TextPieces::aimedSize)
+            flush();
+        piece.reserve(std::max(need, TextPieces::aimedSize));
         piece.append(a).append(b).append(c);
     }
     TextPieces finish()
     {
-        if (!piece.isEmpty())
-            out.push_back(std::exchange(piece, QByteArray()));
+        flush();
         return std::move(out);
     }
 
 private:
+    void flush()
+    {
+        out.push_back(piece);
+        // The one buffer serves every piece, unless a huge cell grew it.
+        if (piece.capacity() > 2 * TextPieces::aimedSize)
+            piece = QByteArray();
+        else
+            piece.resize(0);
+    }
+
     TextPieces out;
     QByteArray piece;
 };
@@ -131,7 +138,7 @@ TextPieces pieces(const CellTableText::Fields& f, QByteArrayView text, char sepa
 
 QByteArray fragment(const CellTableText::Fields& f, QByteArrayView text, char separator, const Progress& progress)
 {
-    return Pieces::joined(pieces(f, text, separator, progress));
+    return pieces(f, text, separator, progress).joined();
 }
 
 }

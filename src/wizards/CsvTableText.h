@@ -21,8 +21,8 @@ qsizetype fieldCount(QByteArrayView text, char separator);
 // line end. CR LF, LF and CR each end a line; a last line without an end is a line, and
 // nothing follows the text's last line end. A line is split at every separator (quotes mean
 // nothing; an empty line has no fields) and gives at most F + 1 of its fields as cells, with
-// no padding. Linear in the text, in one pass, made in pieces of about Pieces::aimedSize that
-// the editor takes one by one.
+// no padding. Linear in the text, in one pass, made in packed pieces of about TextPieces::aimedSize
+// that the editor takes one by one.
 //
 // With a progress step, the build tells now and then how far it has come (0 to 100); a step
 // that answers false stops it, and the result is empty.

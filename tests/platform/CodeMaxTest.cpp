@@ -718,6 +718,62 @@ TEST_F(CodeMaxTest, ABigInsertionIsOneChangeCountedRightAndOneUndo)
     }
 }
 
+TEST_F(CodeMaxTest, ABigInsertionUndoesAndRedoesAmongOtherEditsByEveryWay)
+{
+    // The insertion is kept packed outside the editor's history and put back or taken out
+    // after the editor's own undo: by a call, by the keys, and by the editor's message alone.
+    const QByteArray cells = QByteArray("<td>\xe2\x82\xac</td>\r\n").repeated(150000);
+    const QByteArray table = "<p>" + cells + "</p>";
+    const auto key = [this](int k) {
+        QKeyEvent press(QEvent::KeyPress, k, Qt::ControlModifier);
+        QCoreApplication::sendEvent(&editor, &press);
+    };
+    const auto message = [this](int m) {
+        editor.SendScintilla(m);
+        QCoreApplication::processEvents();
+    };
+    const struct {
+        const char* name;
+        std::function<void()> undo, redo;
+    } ways[] = {
+        {"calls", [&] { editor.undo(); }, [&] { editor.redo(); }},
+        {"keys", [&] { key(Qt::Key_Z); }, [&] { key(Qt::Key_Y); }},
+        {"messages", [&] { message(Sci::SCI_UNDO); }, [&] { message(Sci::SCI_REDO); }},
+    };
+    for (const auto& way : ways) {
+        editor.setText(QStringLiteral("<p>h\u00e9llo</p>"));
+        select(3, 8);
+        editor.setSelPieces(TextPieces::of(cells));
+        setCaret(0);
+        type(QStringLiteral("X"));
+        ASSERT_EQ(editor.utf8Text(), "X" + table) << way.name;
+        const struct {
+            const std::function<void()>& step;
+            QByteArray text;
+            int caret;
+        } steps[] = {
+            {way.undo, table, 0},
+            {way.undo, "<p>h\xc3\xa9llo</p>", 8},
+            {way.redo, table, 3 + 12 * 150000},
+            {way.redo, "X" + table, 1},
+            {way.undo, table, 0},
+        };
+        for (const auto& step : steps) {
+            step.step();
+            EXPECT_EQ(editor.utf8Text(), step.text) << way.name;
+            EXPECT_EQ(editor.TextLength(), ownCount(editor)) << way.name;
+            EXPECT_EQ(caret(), step.caret) << way.name;
+        }
+        EXPECT_TRUE(editor.isUndoAvailable() && editor.isRedoAvailable()) << way.name;
+        // A new edit drops what was left to redo.
+        type(QStringLiteral("Y"));
+        way.undo();
+        way.redo();
+        EXPECT_EQ(editor.utf8Text(), "Y" + table) << way.name;
+        EXPECT_FALSE(editor.isRedoAvailable()) << way.name;
+    }
+}
+
 TEST_F(CodeMaxTest, ABigFileIsReadInPiecesAsTheWholeFile)
 {
     // Characters cut by the end of the first 16 MiB piece: a UTF-8 euro sign in one file, a

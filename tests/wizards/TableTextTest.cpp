@@ -276,13 +276,14 @@ TEST(CsvTableText, PiecesAreCutBetweenPartsAndJoinToTheTable)
     for (const auto& c : cases) {
         const TextPieces pieces = CsvTableText::pieces({}, c.text, CsvTableText::comma);
         ASSERT_GE(pieces.size(), 2u) << c.name;
-        for (const QByteArray& piece : pieces) {
-            if (piece.size() > Pieces::aimedSize) {
+        for (qsizetype i = 0; i < pieces.size(); ++i) {
+            const QByteArray piece = pieces.piece(i);
+            if (piece.size() > TextPieces::aimedSize) {
                 EXPECT_TRUE(piece.contains(huge)) << c.name << ": only a huge cell goes beyond the aimed size";
                 EXPECT_LE(piece.size(), huge.size() + 4 + 7) << c.name << ": the cell and its tags, nothing more";
             }
             EXPECT_TRUE(piece.endsWith("\r\n") || piece.endsWith(">")) << c.name << ": cut between parts";
         }
-        EXPECT_EQ(Pieces::joined(pieces), CsvTableText::fragment({}, c.text, CsvTableText::comma)) << c.name;
+        EXPECT_EQ(pieces.joined(), CsvTableText::fragment({}, c.text, CsvTableText::comma)) << c.name;
     }
 }
