@@ -249,9 +249,11 @@ void CodeMax::setSelPieces(TextPieces&& pieces)
     const long end = SendScintilla(SCI_GETSELECTIONEND);
     PackedStep step{start, TextPieces::of(QByteArrayView(rangePointer(start, end - start), end - start)), std::move(pieces)};
     // Room for the whole text first: a buffer grown piece by piece is copied whole at each step.
+    // And room for typing after it, which would grow it again: the editor clears the room it
+    // gets, so it is held as memory at once and is kept small.
     const long kept = SendScintilla(SCI_GETLENGTH) - (end - start);
     const long total = static_cast<long>(step.inserted.totalSize());
-    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 16 + 4096));
+    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 64 + (64 << 10)));
     const bool collecting = SendScintilla(SCI_GETUNDOCOLLECTION);
     putText(start, end - start, step.inserted);
     if (collecting) {
