@@ -471,6 +471,12 @@ TEST_F(TableWizardsTest, CsvWizardMakesABigFileATableInTheBackground)
               u(fileTableTag) + u("\r\n<tr>\r\n<td>a</td>\r\n<td>b</td>\r\n</tr>\r\n").repeated(20000) + u("</table>\r\n"));
     EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(main->statusText(1), QString());
+    // The menu's Undo takes the whole table out again, and Redo puts it back.
+    const QString table = page->CodeMax1()->text();
+    main->MenuClick(QStringLiteral("Undo"));
+    EXPECT_EQ(page->CodeMax1()->text(), QString());
+    main->MenuClick(QStringLiteral("Redo"));
+    EXPECT_EQ(page->CodeMax1()->text(), table);
 
     // Closed before the build is taken in: nothing goes in, the buttons are as they were.
     page->CodeMax1()->setText(QString());
