@@ -116,8 +116,23 @@ CodeMax::CodeMax(QWidget* parent) : QsciScintilla(parent)
 
 CodeMax::~CodeMax() { delete recording; }
 
+void CodeMax::moveStepsDue(int type, int position, int length)
+{
+    // Quiet, the editor tells of a change only before it; otherwise it is heard after it.
+    const bool inserted = type & (quiet ? SC_MOD_BEFOREINSERT : SC_MOD_INSERTTEXT);
+    const bool deleted = type & (quiet ? SC_MOD_BEFOREDELETE : SC_MOD_DELETETEXT);
+    for (DueStep& due : stepsDue) {
+        if (inserted && position <= due.position)
+            due.position += length;
+        else if (deleted && position + length <= due.position)
+            due.position -= length;
+    }
+}
+
 void CodeMax::textModified(int position, int type, const char* text, int length)
 {
+    if (!stepsDue.empty())
+        moveStepsDue(type, position, length);
     if (quiet) {
         if (!(type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)))
             return;
@@ -256,7 +271,8 @@ void CodeMax::setSelPieces(TextPieces&& pieces)
     SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 64 + (64 << 10)));
     const bool collecting = SendScintilla(SCI_GETUNDOCOLLECTION);
     putText(start, end - start, step.inserted);
-    if (collecting) {
+    // A step only for a text that went in (a read-only editor takes none).
+    if (collecting && SendScintilla(SCI_GETLENGTH) == kept + total) {
         // The editor's history holds the step as a number; the text stays packed here.
         forgetUnreachableSteps();
         const int token = ++lastStepToken;
@@ -297,6 +313,19 @@ void CodeMax::putText(long position, long replaced, const TextPieces& text)
     SendScintilla(SCI_SETUNDOCOLLECTION, static_cast<unsigned long>(collecting));
 }
 
+bool CodeMax::holds(long position, const TextPieces& text) const
+{
+    // The ends of the text are enough to tell it from any other edit.
+    const long length = static_cast<long>(text.totalSize());
+    if (position < 0 || position + length > SendScintilla(SCI_GETLENGTH))
+        return false;
+    if (text.empty())
+        return true;
+    const QByteArray first = text.piece(0), last = text.piece(text.size() - 1);
+    return QByteArrayView(rangePointer(position, first.size()), first.size()) == first
+        && QByteArrayView(rangePointer(position + length - last.size(), last.size()), last.size()) == last;
+}
+
 void CodeMax::stepHeard(int token, bool undone)
 {
     // The editor tells of the step in the middle of its undo, when the text cannot be changed;
@@ -305,7 +334,7 @@ void CodeMax::stepHeard(int token, bool undone)
     if (step == packedSteps.end())
         return;
     step->second.undone = undone;
-    stepsDue.push_back({token, undone});
+    stepsDue.push_back({token, undone, step->second.position});
     QMetaObject::invokeMethod(this, &CodeMax::takeStepsDue, Qt::QueuedConnection);
 }
 
@@ -317,18 +346,20 @@ void CodeMax::takeStepsDue()
     const bool recordingMacro = recording != nullptr;
     if (recordingMacro)
         SendScintilla(SCI_STOPRECORD);
-    for (const auto& [token, undone] : std::exchange(stepsDue, {})) {
-        const auto found = packedSteps.find(token);
+    while (!stepsDue.empty()) {
+        // One at a time: taking one moves those after it.
+        const DueStep due = stepsDue.front();
+        stepsDue.erase(stepsDue.begin());
+        const auto found = packedSteps.find(due.token);
         if (found == packedSteps.end())
             continue;
         const PackedStep& step = found->second;
-        const TextPieces& from = undone ? step.inserted : step.removed;
-        const TextPieces& to = undone ? step.removed : step.inserted;
-        const long length = SendScintilla(SCI_GETLENGTH);
-        if (step.position + from.totalSize() > length)
-            continue;  // not the text the step left: never cut what it did not put there
-        putText(step.position, static_cast<long>(from.totalSize()), to);
-        SendScintilla(SCI_GOTOPOS, step.position + static_cast<long>(to.totalSize()));
+        const TextPieces& from = due.undone ? step.inserted : step.removed;
+        const TextPieces& to = due.undone ? step.removed : step.inserted;
+        if (!holds(due.position, from))
+            continue;  // never cut what the step did not leave there
+        putText(due.position, static_cast<long>(from.totalSize()), to);
+        SendScintilla(SCI_GOTOPOS, due.position + static_cast<long>(to.totalSize()));
     }
     if (recordingMacro)
         SendScintilla(SCI_STARTRECORD);

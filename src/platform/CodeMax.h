@@ -127,6 +127,7 @@ private:
     const char* rangePointer(long start, long length) const;
     // Replaces `replaced` bytes at the position with the text, outside the undo history.
     void putText(long position, long replaced, const TextPieces& text);
+    bool holds(long position, const TextPieces& text) const;
     void stepHeard(int token, bool undone);
     void takeStepsDue();
     void forgetUnreachableSteps();
@@ -158,6 +159,13 @@ private:
         bool undone = false;
     };
     std::map<int, PackedStep> packedSteps;
-    std::vector<std::pair<int, bool>> stepsDue;  // token, undone
+    // A step due where its text stands now: an edit made before it is taken moves it.
+    struct DueStep {
+        int token;
+        bool undone;
+        long position;
+    };
+    std::vector<DueStep> stepsDue;
+    void moveStepsDue(int type, int position, int length);
     int lastStepToken = 0;
 };

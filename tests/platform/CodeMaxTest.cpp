@@ -772,6 +772,20 @@ TEST_F(CodeMaxTest, ABigInsertionUndoesAndRedoesAmongOtherEditsByEveryWay)
         EXPECT_EQ(editor.utf8Text(), "Y" + table) << way.name;
         EXPECT_FALSE(editor.isRedoAvailable()) << way.name;
     }
+
+    // Two undos straight after each other, the second of an edit before the table: the table
+    // is taken out where that edit left it.
+    editor.setText(QStringLiteral("<p>h\u00e9llo</p>"));
+    setCaret(0);
+    type(QStringLiteral("X"));
+    select(4, 9);
+    editor.setSelPieces(TextPieces::of(cells));
+    ASSERT_EQ(editor.utf8Text(), "X" + table);
+    editor.SendScintilla(Sci::SCI_UNDO);
+    editor.SendScintilla(Sci::SCI_UNDO);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editor.utf8Text(), "<p>h\xc3\xa9llo</p>");
+    EXPECT_EQ(editor.TextLength(), ownCount(editor));
 }
 
 TEST_F(CodeMaxTest, ABigFileIsReadInPiecesAsTheWholeFile)
