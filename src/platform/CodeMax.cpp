@@ -264,11 +264,9 @@ void CodeMax::setSelPieces(TextPieces&& pieces)
     const long end = SendScintilla(SCI_GETSELECTIONEND);
     PackedStep step{start, TextPieces::of(QByteArrayView(rangePointer(start, end - start), end - start)), std::move(pieces)};
     // Room for the whole text first: a buffer grown piece by piece is copied whole at each step.
-    // And room for typing after it, which would grow it again: the editor clears the room it
-    // gets, so it is held as memory at once and is kept small.
     const long kept = SendScintilla(SCI_GETLENGTH) - (end - start);
     const long total = static_cast<long>(step.inserted.totalSize());
-    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(kept + total + total / 64 + (64 << 10)));
+    allocateFor(kept + total);
     const bool collecting = SendScintilla(SCI_GETUNDOCOLLECTION);
     putText(start, end - start, step.inserted);
     // A step only for a text that went in (a read-only editor takes none).
@@ -281,6 +279,14 @@ void CodeMax::setSelPieces(TextPieces&& pieces)
     }
     SendScintilla(SCI_SETSEL, start, start + total);
     changeDone();
+}
+
+void CodeMax::allocateFor(qint64 length)
+{
+    // And room for typing after the text: a buffer grown at the first key is copied whole. The
+    // editor clears all the room it gets, which is then memory held at once, so it is small.
+    const qint64 size = length + length / 64 + (64 << 10);
+    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(size, INT_MAX)));
 }
 
 const char* CodeMax::rangePointer(long start, long length) const
@@ -498,9 +504,7 @@ void CodeMax::load(QIODevice& source)
     SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
     setQuiet(true);
     SendScintilla(SCI_CLEARALL);
-    // Room for the file and for typing after it: a buffer grown at the first key is copied whole.
-    const qint64 room = source.size() + source.size() / 16 + 4096;
-    SendScintilla(SCI_ALLOCATE, static_cast<unsigned long>(qMin<qint64>(room, INT_MAX)));
+    allocateFor(source.size());
     const auto finish = [this] {
         SendScintilla(SCI_EMPTYUNDOBUFFER);
         SendScintilla(SCI_SETUNDOCOLLECTION, 1UL);

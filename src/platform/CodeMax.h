@@ -124,6 +124,8 @@ private:
     void playMacro(int slot);
     void updateLineNumberWidth();
     void applyFont(QsciLexer* lexer);
+    // Makes the editor's buffer big enough for a text of this many bytes at once.
+    void allocateFor(qint64 length);
     const char* rangePointer(long start, long length) const;
     // Replaces `replaced` bytes at the position with the text, outside the undo history.
     void putText(long position, long replaced, const TextPieces& text);
