@@ -473,8 +473,10 @@ TEST_F(TableWizardsTest, CsvWizardMakesABigFileATableInTheBackground)
     EXPECT_EQ(main->statusText(1), QString());
     // The menu's Undo takes the whole table out again, and Redo puts it back.
     const QString table = page->CodeMax1()->text();
+    saveShot(main, QStringLiteral("csv-table-in-page"));
     main->MenuClick(QStringLiteral("Undo"));
     EXPECT_EQ(page->CodeMax1()->text(), QString());
+    saveShot(main, QStringLiteral("csv-table-undone"));
     main->MenuClick(QStringLiteral("Redo"));
     EXPECT_EQ(page->CodeMax1()->text(), table);
 
