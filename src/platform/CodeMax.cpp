@@ -78,7 +78,6 @@ qsizetype wholeCharacters(QByteArrayView bytes)
 }
 
 // Notices of changes about to be made, and nothing else: no notice after a change reaches
-// QScintilla's handlers.
 // QScintilla's handlers. And the notices of packed steps to undo or redo.
 constexpr int beforeChangeNotices = QsciScintillaBase::SC_MOD_BEFOREINSERT | QsciScintillaBase::SC_MOD_BEFOREDELETE
     | QsciScintillaBase::SC_MOD_CONTAINER;
@@ -272,7 +271,6 @@ void CodeMax::setSelPieces(TextPieces&& pieces)
     // A step only for a text that went in (a read-only editor takes none).
     if (collecting && SendScintilla(SCI_GETLENGTH) == kept + total) {
         // The editor's history holds the step as a number; the text stays packed here.
-        forgetUnreachableSteps();
         const int token = ++lastStepToken;
         packedSteps.emplace(token, std::move(step));
         SendScintilla(SCI_ADDUNDOACTION, static_cast<unsigned long>(token), 0L);
@@ -348,7 +346,7 @@ void CodeMax::takeStepsDue()
 {
     if (stepsDue.empty())
         return;
-    // Replaying a step is part of the undo that a macro records, not keys of its own.
+    // Putting a step's text back is part of an undo, not an edit of its own for a macro to record.
     const bool recordingMacro = recording != nullptr;
     if (recordingMacro)
         SendScintilla(SCI_STOPRECORD);

@@ -131,6 +131,7 @@ private:
     void putText(long position, long replaced, const TextPieces& text);
     bool holds(long position, const TextPieces& text) const;
     void stepHeard(int token, bool undone);
+    void moveStepsDue(int type, int position, int length);
     void takeStepsDue();
     void forgetUnreachableSteps();
 
@@ -168,6 +169,5 @@ private:
         long position;
     };
     std::vector<DueStep> stepsDue;
-    void moveStepsDue(int type, int position, int length);
     int lastStepToken = 0;
 };

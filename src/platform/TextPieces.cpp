@@ -41,14 +41,6 @@ QByteArray TextPieces::piece(qsizetype i) const
     return p.packed ? qUncompress(p.bytes) : p.bytes;
 }
 
-qsizetype TextPieces::packedSize() const
-{
-    qsizetype size = 0;
-    for (const Piece& p : pieces)
-        size += p.bytes.size();
-    return size;
-}
-
 QByteArray TextPieces::joined() const
 {
     QByteArray out;

@@ -22,9 +22,8 @@ public:
     qsizetype size() const { return static_cast<qsizetype>(pieces.size()); }
     bool empty() const { return pieces.empty(); }
     QByteArray piece(qsizetype i) const;
-    // The bytes of the whole text, and of the pieces as they are held.
+    // The bytes of the whole text.
     qsizetype totalSize() const { return total; }
-    qsizetype packedSize() const;
     QByteArray joined() const;
 
 private:
