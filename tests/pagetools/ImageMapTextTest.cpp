@@ -1,10 +1,10 @@
 // The image map's HTML byte for byte, and the coordinates of each kind of shape.
+#include "common/Utf8.h"
 #include "pagetools/ImageMapText.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 }
 
 TEST(ImageMapText, TheMapLineByLine)

@@ -1,4 +1,5 @@
 // The gallery page byte for byte, for both layouts, and the addresses of awkward file names.
+#include "common/Utf8.h"
 #include "common/JumpMenuScript.h"
 #include "pagetools/PictureShow.h"
 #include "wizards/DropDownScript.h"
@@ -6,7 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 const char* const head =
     "<html>\r\n\r\n<head>\r\n<meta name=\"GENERATOR\" content=\"Velloro 2002\">\r\n<meta name=\"AUTHOR\" content=\"Ansel Corby\">\r\n"

@@ -1,10 +1,10 @@
 // The quick notes' rules: the note's file, which names make one, and the search over the names.
+#include "common/Utf8.h"
 #include "pagetools/QuickNotes.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 const QStringList rows = {u("abc.dat"), u("ABCD table.dat"), u("form row.dat"), u("xabcx.dat")};
 }
 

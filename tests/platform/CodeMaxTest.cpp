@@ -1,6 +1,7 @@
 // The code editor control: the insertion rule, the editor command numbers, macros, files,
 // languages and the change event.
 #include "common/TestSupport.h"
+#include "common/Utf8.h"
 
 #include "platform/CodeMax.h"
 #include "platform/RuntimeError.h"
@@ -205,41 +206,34 @@ TEST_F(CodeMaxTest, CommandStepsRightWithoutSelection)
 
 // ---- Editor command numbers ----------------------------------------------------------------
 
-TEST_F(CodeMaxTest, CaseCommandsChangeOnlyTheSelection)
+TEST_F(CodeMaxTest, CommandsOnTheTextAndTheSelection)
 {
-    editor.setText(QStringLiteral("hello big World"));
-    select(6, 9);
-    editor.ExecuteCmd(125);
-    EXPECT_EQ(editor.text(), QStringLiteral("hello BIG World"));
-    select(10, 15);
-    editor.ExecuteCmd(147);
-    EXPECT_EQ(editor.text(), QStringLiteral("hello BIG world"));
-    select(0, 9);
-    editor.ExecuteCmd(147);
-    EXPECT_EQ(editor.text(), QStringLiteral("hello big world"));
-    EXPECT_EQ(editor.SelText(), QStringLiteral("hello big")) << "the selection stays";
-}
-
-TEST_F(CodeMaxTest, CaseCommandsChangeAccentedLetters)
-{
-    editor.setText(QStringLiteral("caf\u00E9 na\u00EFve \u00E0 la"));
-    editor.ExecuteCmd(137);
-    editor.ExecuteCmd(125);
-    EXPECT_EQ(editor.text(), QStringLiteral("CAF\u00C9 NA\u00CFVE \u00C0 LA")) << visible(editor.text());
-    editor.ExecuteCmd(137);
-    editor.ExecuteCmd(147);
-    EXPECT_EQ(editor.text(), QStringLiteral("caf\u00E9 na\u00EFve \u00E0 la")) << visible(editor.text());
-}
-
-TEST_F(CodeMaxTest, SelectAll)
-{
-    const QString text = QStringLiteral("<p>\r\n\u00E9t\u00E9\r\n</p>");
-    editor.setText(text);
-    setCaret(3);
-    editor.ExecuteCmd(137);
-    EXPECT_EQ(editor.SelText(), text);
-    EXPECT_EQ(editor.SelLength(), 14);
-    EXPECT_EQ(editor.text(), text);
+    // Each from its text and selection, in characters (an empty selection is the caret).
+    const QString cafe = QStringLiteral("caf\u00E9 na\u00EFve \u00E0 la"), CAFE = QStringLiteral("CAF\u00C9 NA\u00CFVE \u00C0 LA");
+    const QString page = QStringLiteral("<p>\r\n\u00E9t\u00E9\r\n</p>");
+    const struct {
+        const char* name;
+        QString text;
+        int from, to, command;
+        QString expected, selected;
+    } cases[] = {
+        {"upper case of the selection only", u("hello big World"), 6, 9, 125, u("hello BIG World"), u("BIG")},
+        {"lower case of the selection only", u("hello BIG World"), 10, 15, 147, u("hello BIG world"), u("world")},
+        {"upper case of accented letters", cafe, 0, 15, 125, CAFE, CAFE},
+        {"lower case of accented letters", CAFE, 0, 15, 147, cafe, cafe},
+        {"case without a selection changes nothing", u("abc"), 1, 1, 125, u("abc"), u("")},
+        {"select all from anywhere", page, 3, 3, 137, page, page},
+        {"delete the caret's line", u("one\r\ntwo\r\nthree"), 7, 7, 160, u("one\r\nthree"), u("")},
+        {"delete the first line", u("one\r\nthree"), 0, 0, 160, u("three"), u("")},
+    };
+    for (const auto& c : cases) {
+        editor.setText(c.text);
+        select(c.from, c.to);
+        editor.ExecuteCmd(c.command);
+        EXPECT_EQ(editor.text(), c.expected) << c.name << ": " << visible(editor.text());
+        EXPECT_EQ(editor.SelText(), c.selected) << c.name;
+        EXPECT_EQ(editor.SelLength(), c.selected.size()) << c.name;
+    }
 }
 
 TEST_F(CodeMaxTest, LineUpAndDown)
@@ -252,18 +246,6 @@ TEST_F(CodeMaxTest, LineUpAndDown)
         EXPECT_EQ(caretLine(), line);
     }
     EXPECT_EQ(editor.text(), QStringLiteral("one\r\ntwo\r\nthree"));
-}
-
-TEST_F(CodeMaxTest, DeleteCurrentLine)
-{
-    editor.setText(QStringLiteral("one\r\ntwo\r\nthree"));
-    editor.setCursorPosition(1, 2);
-    editor.ExecuteCmd(160);
-    EXPECT_EQ(editor.text(), QStringLiteral("one\r\nthree"));
-    EXPECT_EQ(editor.LineCount(), 2);
-    editor.setCursorPosition(0, 0);
-    editor.ExecuteCmd(160);
-    EXPECT_EQ(editor.text(), QStringLiteral("three"));
 }
 
 TEST_F(CodeMaxTest, FindReplaceAndPropertiesAreHandedToTheirOwners)

@@ -1,6 +1,7 @@
 // The project panel: loading a project file (its facts, the tree of its files, the panel brought
 // up), the edge cases and the bad files a user may hand it, closing, adding a file, opening a
 // file with a double click and queueing the project for upload.
+#include "common/Utf8.h"
 #include "common/TestSupport.h"
 
 #include "documents/DocumentWindow.h"
@@ -25,7 +26,6 @@
 #include <QTreeWidget>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 const QByteArray header = "'''Start Project Details'''\r\nMy Site\r\nAnn Author\r\n26/11/2026\r\nann@example.org\r\n'''End Of Details'''\r\n";
 
 class ProjectPanelTest : public WindowTest {

@@ -1,5 +1,6 @@
 // The project file: its six header lines, reading it back whatever its line ends or contents,
 // a path added to it, and the name a path shows in the project tree.
+#include "common/Utf8.h"
 #include "sites/SiteFiles.h"
 
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 }
 
 TEST(SiteFiles, HeaderLinesInTheirOrder)

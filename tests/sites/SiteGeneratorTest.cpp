@@ -1,5 +1,6 @@
 // The site generator: the menu page byte for byte, the folder and the project file it makes,
 // and the runs it refuses without touching anything.
+#include "common/Utf8.h"
 #include "sites/SiteGenerator.h"
 
 #include <QDir>
@@ -12,7 +13,6 @@
 using SiteGenerator::Type;
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 // The menu page's starting text, line by line as the site wizard keeps it.
 const QString start = u("<html>\r\n\r\n<head>\r\n\r\n<title>Main \r\nMenu</title>\r\n<style>\r\n"

@@ -1,6 +1,7 @@
 // The Site Wizard from the menu: its pages in order, a Business, a Personal and a Custom site
 // made into a folder of the test's and loaded as the project, the reset, the runs it refuses,
 // and the generated sites in the browser view with every menu link leading to a page.
+#include "common/Utf8.h"
 #include "common/TestSupport.h"
 
 #include "platform/WebBrowser.h"
@@ -29,7 +30,6 @@
 #include <QWebEngineView>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 class SiteManagmentTest : public WindowTest {
 protected:

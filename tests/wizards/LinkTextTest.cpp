@@ -1,4 +1,5 @@
 // The link, menu and script fragments, byte for byte, from the field texts alone.
+#include "common/Utf8.h"
 #include "common/JumpMenuScript.h"
 #include "platform/RuntimeError.h"
 #include "wizards/DropMenuText.h"
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* text) { return QString::fromUtf8(text); }
 
 HyperlinkText::Fields link(const char* address, const char* text, bool own)
 {

@@ -1,4 +1,5 @@
 // The picture, media and parameter wizards' fragments, byte for byte, from the field texts alone.
+#include "common/Utf8.h"
 #include "common/QtPrinters.h"
 #include "wizards/Html.h"
 #include "wizards/ImageText.h"
@@ -8,7 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 ImageText::Fields picture(const char* location, const char* width, const char* height)
 {

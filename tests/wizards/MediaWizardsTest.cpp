@@ -1,6 +1,7 @@
 // The picture, media and parameter wizards in their windows: opened from their menu keys, filled
 // by name, run with a page, a split window, a notepad and no document, and fed the files a user
 // may pick by mistake.
+#include "common/Utf8.h"
 #include "common/QtPrinters.h"
 #include "wizards/WizardFixture.h"
 
@@ -38,7 +39,6 @@
 #include <sys/resource.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 // The smallest picture of each kind the form's file dialog offers, written by the image writers
 // (GIF, which Qt cannot write, as the bytes of a one-pixel picture).

@@ -1,4 +1,5 @@
 // The three table builders, byte for byte, from the field texts (and the file's text) alone.
+#include "common/Utf8.h"
 #include "platform/RuntimeError.h"
 #include "wizards/CellTableText.h"
 #include "wizards/CsvTableText.h"
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 const char* const defaultTag =
     "<table border=1 cellspacing=0 style=border-collapse: collapse; border-style: solid; border-width: 1  "

@@ -1,6 +1,7 @@
 // The three table wizards opened from their menu keys: their fields and defaults, the table
 // each writes into a page, a split window, a notepad and no document, and the bad input each
 // must survive.
+#include "common/Utf8.h"
 #include "WizardFixture.h"
 
 #include "documents/frmDocument.h"
@@ -27,7 +28,6 @@
 
 namespace {
 const QString refusal = QStringLiteral("You have a notepad document open, you need a web page open for this feature");
-QString u(const char* s) { return QString::fromUtf8(s); }
 
 // The blank table of two rows of two cells with every default.
 const char* const blankTwoByTwo =
