@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-}
-
 TEST(ImageMapText, TheMapLineByLine)
 {
     using ImageMapText::Shape;

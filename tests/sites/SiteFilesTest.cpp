@@ -9,9 +9,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-namespace {
-}
-
 TEST(SiteFiles, HeaderLinesInTheirOrder)
 {
     EXPECT_EQ(SiteFiles::header({u("My Site"), u("Ann Author"), u("01/02/2026"), u("ann@example.org")}),
